@@ -1,0 +1,1 @@
+#include <LZEL_Core/frame/ZEL_Primitives.h>

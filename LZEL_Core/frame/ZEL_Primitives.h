@@ -1,0 +1,6 @@
+#ifndef LZEL_CORE_FRAME_ZEL_PRIMITIVES_H_
+#define LZEL_CORE_FRAME_ZEL_PRIMITIVES_H_
+
+#include <LZEL_Core/frame/ZEL_Types.h>
+
+#endif  // LZEL_CORE_FRAME_ZEL_PRIMITIVES_H_

@@ -1,0 +1,42 @@
+// -----------------------------------------------------------------------------
+// File: ZEL_Types.h
+// -----------------------------------------------------------------------------
+//
+// The plain integer widths used throughout LZEL_Core, and the export macro
+// that puts a class or function on the shared library's surface.
+//
+// The widths live in namespace `ZEL`, never at global scope, so that an
+// application's own `u32` does not clash with the library's:
+//
+//   ZEL::u32 length = s.GetLength();
+//
+// Positions and counts in memory are `u32`; positions and sizes of files and
+// buffers are `u64`; yes-or-no values are `u8` (1 or 0 going out, any
+// non-zero value meaning yes coming in).
+
+#ifndef LZEL_CORE_FRAME_ZEL_TYPES_H_
+#define LZEL_CORE_FRAME_ZEL_TYPES_H_
+
+#include <cstdint>
+
+// ZEL_API
+//
+// Marks a class, a class template or a free function as part of the library's
+// exported surface. Everything else in the shared library is hidden.
+#if defined(__GNUC__) || defined(__clang__)
+#define ZEL_API __attribute__((visibility("default")))
+#else
+#define ZEL_API
+#endif
+
+namespace ZEL {
+
+using u8 = std::uint8_t;
+using u16 = std::uint16_t;
+using u32 = std::uint32_t;
+using u64 = std::uint64_t;
+using i64 = std::int64_t;
+
+}  // namespace ZEL
+
+#endif  // LZEL_CORE_FRAME_ZEL_TYPES_H_

@@ -1,0 +1,1 @@
+#include <LZEL_Core/text/CZEL_String.h>
