@@ -1,6 +1,391 @@
+// -----------------------------------------------------------------------------
+// File: CZEL_String.h
+// -----------------------------------------------------------------------------
+//
+// `CZEL_String` is LZEL_Core's text class: a mutable run of bytes with a
+// length and a terminator. A character is one `char`; there is no encoding,
+// and only the ASCII letters A to Z and a to z have case.
+//
+//   CZEL_String name("world");
+//   CZEL_String line = "hello, " + name;   // "hello, world"
+//   line.Insert('!', line.GetLength());     // "hello, world!"
+//   line.ResizeLeft(5);                     // "hello"
+//   line.SetFormatted(8, CZEL_String::ALIGN_RIGHT, '.');  // "...hello"
+//   ZEL::u64 n = CZEL_String("1FH").ToUnsignedAutoRadix(2);  // 31
+//
+// Storage
+//
+// A string owns one buffer of exactly `GetLength()` + 1 bytes, the last of
+// them a terminator. There is no spare capacity and no sharing: every edit
+// that changes the length builds a new exact buffer, and copies are deep.
+// The length is what counts, so a string may hold bytes of 0 in the middle
+// (the constructor from a pointer and a count, `Build`, `SetChar`,
+// `SetLength` and `operator+=(char)` can put them there). Operations that
+// read the text as NUL-terminated text, such as the number conversions,
+// stop at the first 0.
+//
+// The pointer from `GetStringC()` is the buffer itself. It stays valid only
+// until the next change of the string: `SetChar`, `ReplaceChar` and `SetCase`
+// alone keep the buffer, and so does assigning a string of equal non-zero
+// length.
+//
+// Quiet bounds
+//
+// No member throws a `CZEL_Exception` or returns an error code. A position or
+// count out of range has a defined quiet result, and that result differs
+// from operation to operation: `Left(99)` on "abc" gives "abc", while
+// `ResizeMid(3, 1)` on "abc" empties the string and `ResizeLeft(4)` leaves it
+// alone. Each member below states its own rule. A null `char const*` is never
+// checked for: the caller must not pass one. A failed allocation passes
+// through as `std::bad_alloc`, and the string keeps its old text.
+
 #ifndef LZEL_CORE_TEXT_CZEL_STRING_H_
 #define LZEL_CORE_TEXT_CZEL_STRING_H_
 
+#include <LZEL_Core/frame/CZEL_Object.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
+
+// ZEL_PRINTF_FORMAT
+//
+// Lets the compiler check the arguments of a printf-like member against its
+// format, as it does for printf itself.
+#ifndef ZEL_PRINTF_FORMAT
+#if defined(__GNUC__) || defined(__clang__)
+#define ZEL_PRINTF_FORMAT(format_index, first_arg) \
+  __attribute__((format(printf, format_index, first_arg)))
+#else
+#define ZEL_PRINTF_FORMAT(format_index, first_arg)
+#endif
+#endif
+
+class ZEL_API CZEL_String : public CZEL_Object {
+ public:
+  // Where `SetFormatted` puts the text in its field.
+  enum t_Align : ZEL::u32 {
+    ALIGN_LEFT = 0,    // At the start of the field.
+    ALIGN_RIGHT = 1,   // At the end of the field.
+    ALIGN_CENTER = 2,  // In the middle; an odd remainder puts the extra fill
+                       // on the right.
+  };
+
+  // ---------------------------------------------------------------------------
+  // Construction
+  // ---------------------------------------------------------------------------
+
+  // An empty string.
+  CZEL_String();
+
+  // A deep copy of `src`.
+  CZEL_String(CZEL_String const& src);
+
+  // The one character `c`; length 1 also for a `c` of 0.
+  CZEL_String(char c);
+
+  // `count` copies of `c`; empty for a `count` of 0.
+  CZEL_String(ZEL::u32 count, char c);
+
+  // A copy of the NUL-terminated `text`.
+  CZEL_String(char const* text);
+
+  // Exactly `count` bytes from `text`, zeros included.
+  CZEL_String(char const* text, ZEL::u32 count);
+
+  // Releases the buffer.
+  ~CZEL_String() override;
+
+  // ---------------------------------------------------------------------------
+  // Assignment
+  // ---------------------------------------------------------------------------
+
+  // A copy of `src`. Assigning a string to itself changes nothing.
+  CZEL_String& operator=(CZEL_String const& src);
+
+  // The one character `c`; length 1 also for a `c` of 0.
+  CZEL_String& operator=(char c);
+
+  // A copy of the NUL-terminated `text`, which may point into this string's
+  // own text: `s = s.GetStringC() + 1` drops the first character.
+  CZEL_String& operator=(char const* text);
+
+  // ---------------------------------------------------------------------------
+  // Concatenation
+  // ---------------------------------------------------------------------------
+
+  // Appends `s`, which may be this string itself (`s += s` doubles it). An
+  // empty `s` changes nothing.
+  CZEL_String& operator+=(CZEL_String const& s);
+
+  // Appends the NUL-terminated `text`. An empty text changes nothing.
+  CZEL_String& operator+=(char const* text);
+
+  // Appends `c`, also a `c` of 0.
+  CZEL_String& operator+=(char c);
+
+  // This string followed by `s`, `c` or `text`; this string stays as it is.
+  CZEL_String operator+(CZEL_String const& s) const;
+  CZEL_String operator+(char c) const;
+  CZEL_String operator+(char const* text) const;
+
+  // ---------------------------------------------------------------------------
+  // Reading
+  // ---------------------------------------------------------------------------
+
+  // The number of characters, without the terminator.
+  ZEL::u32 GetLength() const;
+
+  // The buffer itself, terminated, not a copy. The caller may write through
+  // it; it is valid until the next change of the string.
+  char* GetStringC() const;
+
+  // The character at `pos`, or 0 if `pos` is not below the length.
+  char GetChar(ZEL::u32 pos) const;
+
+  // Copies the text and a terminator into `dest`, which must hold
+  // `GetLength()` + 1 bytes.
+  void ToStringC(char* dest) const;
+
+  // ---------------------------------------------------------------------------
+  // Substrings: a new string, this one left alone
+  // ---------------------------------------------------------------------------
+
+  // The first `count` characters, or the whole string if `count` exceeds the
+  // length. `Left(0)` is empty.
+  CZEL_String Left(ZEL::u32 count) const;
+
+  // The last `count` characters, or the whole string if `count` exceeds the
+  // length. `Right(0)` is empty.
+  CZEL_String Right(ZEL::u32 count) const;
+
+  // `count` characters from `pos`, cut at the end of the string. Empty if
+  // `pos` is not below the length or `count` is 0.
+  CZEL_String Mid(ZEL::u32 pos, ZEL::u32 count) const;
+
+  // Everything from `pos` on. Empty if `pos` is not below the length.
+  CZEL_String RightFromPos(ZEL::u32 pos) const;
+
+  // ---------------------------------------------------------------------------
+  // In-place substrings: keep a part of this string and return it
+  // ---------------------------------------------------------------------------
+
+  // Keeps the first `count` characters. A `count` above the length changes
+  // nothing; a `count` of 0 empties the string.
+  CZEL_String& ResizeLeft(ZEL::u32 count);
+
+  // Keeps the last `count` characters. A `count` above the length changes
+  // nothing; a `count` of 0 empties the string.
+  CZEL_String& ResizeRight(ZEL::u32 count);
+
+  // Keeps `count` characters from `pos`, cut at the end of the string. Unlike
+  // `ResizeLeft` and `ResizeRight`, a `pos` not below the length or a `count`
+  // of 0 empties the string.
+  CZEL_String& ResizeMid(ZEL::u32 pos, ZEL::u32 count);
+
+  // Keeps everything from `pos` on. A `pos` not below the length empties the
+  // string.
+  CZEL_String& ResizeRightFromPos(ZEL::u32 pos);
+
+  // ---------------------------------------------------------------------------
+  // Editing
+  // ---------------------------------------------------------------------------
+
+  // Inserts `c` before the character at `pos`; a `pos` equal to the length
+  // appends. A `pos` above the length changes nothing.
+  CZEL_String& Insert(char c, ZEL::u32 pos);
+
+  // Inserts at `pos` the characters of `src` from `srcStart` on, at most
+  // `count` of them. `count` is first cut to the length of `src`; then, if
+  // `srcStart` is not below that `count`, nothing is inserted (so
+  // `Insert("abcdef", 0, 3, 2)` inserts nothing, `Insert("abcdef", 0, 1, 3)`
+  // inserts "bcd"); a run past the end of `src` is cut. A `pos` above the
+  // length changes nothing. `src` may be this string.
+  CZEL_String& Insert(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 srcStart, ZEL::u32 count);
+
+  // Removes every occurrence of `c`.
+  CZEL_String& RemoveChar(char c);
+
+  // Removes `count` characters at `pos`, cut at the end of the string. A
+  // `count` of 0 or a `pos` at or above the length changes nothing.
+  CZEL_String& RemoveChars(ZEL::u32 pos, ZEL::u32 count);
+
+  // Replaces every `from` by `to`, in place.
+  CZEL_String& ReplaceChar(char from, char to);
+
+  // Overwrites `count` characters at `pos` with `src.Mid(srcStart, count)`,
+  // `count` being first cut to the whole length of `src`. Characters at and
+  // after `pos` that fall inside the overwritten run are removed even where
+  // `src` supplies fewer (a `srcStart` past the end of `src` supplies none):
+  // "abcd".ReplaceChars("XY", 1, 5, 2) gives "ad". A `pos` at or past the end
+  // appends: "abcd".ReplaceChars("XY", 9, 0, 2) gives "abcdXY".
+  CZEL_String& ReplaceChars(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 srcStart, ZEL::u32 count);
+
+  // Replaces `oldCount` characters at `pos` with `src.Mid(srcStart, count)`,
+  // `count` being first cut to the length of `src`. The kept tail is the last
+  // (length - `pos` - `oldCount`) characters, that difference taken in signed
+  // 32 bits: when it isn't above 0 there is no tail, so an `oldCount` past
+  // the end removes the rest ("abcd".ReplaceString("XYZ", 1, 9, 0, 3) gives
+  // "aXYZ"). A `pos` at or past the end appends. `src` may be this string.
+  CZEL_String& ReplaceString(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 oldCount, ZEL::u32 srcStart,
+                             ZEL::u32 count);
+
+  // Becomes `count` copies of `c`; empty for a `count` of 0.
+  CZEL_String& Build(ZEL::u32 count, char c);
+
+  // Stores `c` at `pos` if `pos` is below the length; otherwise does nothing.
+  // The string can't grow this way.
+  void SetChar(ZEL::u32 pos, char c);
+
+  // Cuts the text to `count` characters, or pads it with `fill` up to
+  // `count`. A `count` equal to the length changes nothing.
+  CZEL_String& SetLength(ZEL::u32 count, char fill);
+
+  // Mode 0 turns A to Z into lower case, mode 1 turns a to z into upper case,
+  // any other mode does nothing. Other bytes stay. Keeps the buffer.
+  CZEL_String& SetCase(ZEL::u32 mode);
+
+  // Removes the runs of `c` at the ends named by `sides`: bit 0 the leading
+  // run, bit 1 the trailing run, so 3 trims both and 0 nothing; other bits
+  // are ignored. A string of nothing but `c` becomes empty.
+  CZEL_String& Trim(char c, ZEL::u32 sides);
+
+  // Fits the text into exactly `width` characters of `fill`, per `align`:
+  // left keeps the head of a text that is too long, right keeps its tail,
+  // center starts the text at (width - length) / 2 (0 when the text doesn't
+  // fit) and keeps its head. Any other `align` gives `width` fill characters.
+  CZEL_String& SetFormatted(ZEL::u32 width, t_Align align, char fill);
+
+  // ---------------------------------------------------------------------------
+  // Numbers as text
+  // ---------------------------------------------------------------------------
+
+  // `value` through the runtime formatter's conversion `format` (one of f, F,
+  // g, G, e, E) with `precision` digits: FromNumber(3.14159, 'f', 2) is
+  // "3.14", FromNumber(0.5, 'e', 3) is "5.000e-01". Any other letter gives an
+  // empty string; a negative `precision` acts as if none were given.
+  static CZEL_String FromNumber(double value, char format, int precision);
+
+  // `value` in decimal, with a leading minus when negative.
+  static CZEL_String FromNumber(ZEL::i64 value);
+
+  // `value` in `radix`, digits above 9 as lower-case letters (radixes above
+  // 36 go on past 'z' into the following character codes). With a non-zero
+  // `group`, `separator` goes between every `group` digits counted from the
+  // right, never in front: FromNumber(1234567, 10, 3, ',') is "1,234,567".
+  // 0 gives "0". `radix` must be at least 2.
+  static CZEL_String FromNumber(ZEL::u64 value, ZEL::u32 radix, ZEL::u32 group, char separator);
+
+  // Becomes `FromNumber` of the same arguments.
+  CZEL_String& SetFromNumber(double value, char format, int precision);
+  CZEL_String& SetFromNumber(ZEL::i64 value);
+  CZEL_String& SetFromNumber(ZEL::u64 value, ZEL::u32 radix, ZEL::u32 group, char separator);
+
+  // Replaces the text by the printf-style output of `format` and its
+  // arguments, sized exactly, of any length. If the formatter reports an
+  // error the string is left unchanged. No argument may point into this
+  // string's own text.
+  CZEL_String& Format(char const* format, ...) ZEL_PRINTF_FORMAT(2, 3);
+
+  // ---------------------------------------------------------------------------
+  // Text as numbers
+  // ---------------------------------------------------------------------------
+  //
+  // These read the text up to its first 0 and leave the string alone.
+  // Leading white space is skipped and a sign is accepted (a minus wraps in
+  // the unsigned forms); reading stops at the first character that can't
+  // continue the number, so "12abc" reads 12. Text with no number reads 0,
+  // and a number too large for the type reads as its largest value (for a
+  // negative `ToSigned`, the smallest). Nothing is reported.
+
+  // The text as a floating-point number: "1.5e3z" reads 1500.
+  double ToDouble() const;
+
+  // The text as a decimal signed number: "-12x" reads -12.
+  ZEL::i64 ToSigned() const;
+
+  // The text as an unsigned number in `radix` (2 to 36). Radix 16 accepts a
+  // 0x or 0X prefix, and radix 0 takes the radix from the prefix (0x: 16,
+  // 0: 8, else 10). Any other radix reads 0.
+  ZEL::u64 ToUnsigned(ZEL::u32 radix) const;
+
+  // The text as an unsigned number whose radix is named by a marker letter:
+  // mode 1 takes it from the start ("H1F", "O17", or the prefix "0x"), mode 2
+  // from the end ("1FH", "17O"). Any other mode, and an empty or all-blank
+  // text, gives 0. Markers are the characters above 'G' (case-blind, bytes
+  // from 128 up excluded); H means 16, O means 8, any other marker or none
+  // means 10. Consequences that callers rely on:
+  //   - In a run of markers the last one read decides: in mode 1 the one
+  //     next to the number ("HO17" is 15), in mode 2 the first in the text
+  //     ("12XH" is 12).
+  //   - B is not a marker, so no text selects radix 2: "101B" in mode 2
+  //     reads 101, "B101" in mode 1 reads 0.
+  //   - A text of nothing but markers reads 0 ("XYZ", "H", "HHH").
+  //   - Positions are found on a blank-trimmed copy but the number is cut
+  //     from the text as it stands, so outer blanks put the two out of step:
+  //     in mode 1 "  H1F" reads 0 while "  0x1F" reads 31; in mode 2 "1FH "
+  //     reads 1, in radix 10.
+  ZEL::u64 ToUnsignedAutoRadix(ZEL::u32 mode) const;
+
+ protected:
+  // Gives this string a buffer of `size` + 1 bytes with a terminator at
+  // `size`, and sets the length to `size`; the other bytes are left for the
+  // caller to fill. If `size` equals the length and isn't 0, does nothing at
+  // all: the buffer and its text stay.
+  void NewBuffer(ZEL::u32 size);
+
+  // Makes the string empty with a fresh one-byte buffer, unless it is empty
+  // already.
+  void ClearBuffer();
+
+  // Frees the buffer and leaves a null buffer of length 0, the one state in
+  // which the buffer is null; the caller must give the string a buffer again
+  // (or be destroying it).
+  void DeleteBuffer();
+
+  // Makes this string a copy of `src`; `src` may be this string.
+  void DataCopy(CZEL_String const& src);
+
+  // The buffer, `m_Length` + 1 bytes with a terminator at `m_Length`.
+  char* m_Text;
+  // The number of characters, without the terminator.
+  ZEL::u32 m_Length;
+
+ private:
+  // A run of bytes that an edit takes into the new text.
+  struct SPiece {
+    char const* m_Text;
+    ZEL::u32 m_Length;
+  };
+
+  // The parts of this text that the substring rules select, as pieces of the
+  // buffer; the in-place and the copying forms share them.
+  SPiece LeftPart(ZEL::u32 count) const;
+  SPiece RightPart(ZEL::u32 count) const;
+  SPiece MidPart(ZEL::u32 pos, ZEL::u32 count) const;
+
+  // Replaces the text by the pieces `a`, `b`, `c` in a new exact buffer. The
+  // pieces may point into the old text, which is freed only afterwards. A
+  // piece with a null text reserves its room, left for the caller to fill.
+  void Compose(SPiece a, SPiece b = SPiece{nullptr, 0}, SPiece c = SPiece{nullptr, 0});
+
+  // Replaces `removed` characters at `pos` by `insert`; both must lie within
+  // the text. Removing and inserting nothing keeps the buffer.
+  void Splice(ZEL::u32 pos, ZEL::u32 removed, SPiece insert);
+
+  // A new buffer of `length` + 1 bytes with a terminator at `length`.
+  static char* Allocate(ZEL::u32 length);
+
+  // Takes over `buffer` of `length` + 1 bytes and frees the old one.
+  void Adopt(char* buffer, ZEL::u32 length);
+
+  // The common form of `ReplaceChars` (`removed` equal to the cut `count`)
+  // and `ReplaceString`.
+  CZEL_String& Replace(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 removed, ZEL::u32 srcStart,
+                       ZEL::u32 count);
+};
+
+// `c` followed by `s`.
+ZEL_API CZEL_String operator+(char c, CZEL_String const& s);
+
+// `text` followed by `s`; an empty `text` gives a copy of `s`.
+ZEL_API CZEL_String operator+(char const* text, CZEL_String const& s);
 
 #endif  // LZEL_CORE_TEXT_CZEL_STRING_H_
