@@ -3,7 +3,7 @@
 //
 // It edits a string at and beyond its bounds, packs a register with fields in
 // two number representations, moves numbers through a byte buffer in both
-// byte orders, and catches a failure code.
+// byte orders, fills a vector and walks a list, and catches a failure code.
 
 #include <LZEL_Core/LZEL_Core.h>
 
@@ -46,11 +46,40 @@ void ByteOrders() {
             << ZEL::Uint32FromBuf(buffer, ZEL::ZEL_LITTLE_ENDIAN) << std::dec << "\n";
 }
 
+void Containers() {
+  // A vector's length is its only size; writing through operator[] after one
+  // Create is the fast path.
+  CZEL_Int32Vector numbers(4, 0);
+  for (ZEL::u32 i = 0; i < numbers.GetLength(); ++i) numbers[i] = static_cast<int>(10 - 3 * i);
+  std::cout << "min " << numbers.Min() << ", max " << numbers.Max() << "\n";
+
+  // A list is walked with its own cursor: each >> 1 hands out the item the
+  // cursor stood on and steps on.
+  CZEL_StringList words;
+  words += CZEL_String("alpha");
+  words += CZEL_String("beta");
+  words += CZEL_String("gamma");
+  words.ToStart();
+  std::cout << "words:";
+  for (ZEL::u32 i = 0; i < words.GetLength(); ++i) std::cout << ' ' << (words >> 1).GetStringC();
+  std::cout << "\n";
+
+  // Typed fields at any byte offset of a byte vector, in either byte order.
+  CZEL_Uint8Vector record(6, 0);
+  record.SetUint16(0x1234, 0, ZEL::ZEL_BIG_ENDIAN);
+  record.SetUint32(0xCAFEF00D, 2, ZEL::ZEL_LITTLE_ENDIAN);
+  std::cout << "record tag 0x" << std::hex << record.GetUint16(0, ZEL::ZEL_BIG_ENDIAN)
+            << std::dec << "\n";
+}
+
 void FailureCodes() {
+  // Misusing a container throws its code, with the container as the object.
+  CZEL_Int32Vector numbers(3, 7);
   try {
-    throw CZEL_Exception(ZEL_ERR_BAD_POSITION, nullptr, 0);
+    numbers[3] = 1;
   } catch (CZEL_Exception const& e) {
-    std::cout << "caught failure code " << e.m_Code << "\n";
+    std::cout << "index 3 of 3 items: failure code " << e.m_Code
+              << (e.m_Object == &numbers ? " from the vector" : "") << "\n";
   }
 }
 
@@ -60,6 +89,7 @@ int main() {
   StringEditing();
   RegisterFields();
   ByteOrders();
+  Containers();
   FailureCodes();
   return 0;
 }
