@@ -1,5 +1,9 @@
 #include <LZEL_Core/text/CZEL_String.h>
 
+#include <LZEL_Core/containers/CZEL_StringList.h>
+#include <LZEL_Core/containers/CZEL_StringVector.h>
+#include <LZEL_Core/frame/ZEL_Errors.h>
+
 #include <algorithm>
 #include <cstdarg>
 #include <cstdint>
@@ -53,6 +57,41 @@ u32 RadixOfMarker(char marker) {
     default:
       return 10;
   }
+}
+
+// The byte as it takes part in an order: a signed char, and with `upper` set
+// a to z taken as A to Z. Neither turns a byte into 0 or 0 into another byte,
+// so the end of the text is the same before and after.
+signed char OrderByte(char c, bool upper) {
+  if (upper && c >= 'a' && c <= 'z') c = static_cast<char>(c - ('a' - 'A'));
+  return static_cast<signed char>(c);
+}
+
+// The order of two NUL-terminated texts, byte by byte: the one that ends
+// first sorts first, otherwise the first differing byte decides.
+signed char OrderOfTexts(char const* a, char const* b, bool upper) {
+  for (;; ++a, ++b) {
+    signed char const x = OrderByte(*a, upper);
+    signed char const y = OrderByte(*b, upper);
+    if (x == 0 && y == 0) return 0;
+    if (x == 0) return -1;
+    if (y == 0) return 1;
+    if (x != y) return x > y ? 1 : -1;
+  }
+}
+
+// The one tag scanner behind both forms of `ExtractTags`: calls
+// `emit(start, length)` for each tag of `text`, also for an empty tag that a
+// separator ends, but not for an empty last tag.
+template <typename Emit>
+void ScanTags(char const* text, u32 length, char separator, Emit&& emit) {
+  u32 start = 0;
+  for (u32 pos = 0; pos < length; ++pos) {
+    if (text[pos] != separator) continue;
+    emit(text + start, pos - start);
+    start = pos + 1;
+  }
+  if (start < length) emit(text + start, length - start);
 }
 
 }  // namespace
@@ -343,6 +382,178 @@ CZEL_String& CZEL_String::SetFormatted(u32 width, t_Align align, char fill) {
   std::swap(m_Text, field.m_Text);
   std::swap(m_Length, field.m_Length);
   return *this;
+}
+
+// -----------------------------------------------------------------------------
+// NUL-terminated text
+// -----------------------------------------------------------------------------
+
+u32 CZEL_String::CS_GetLength(char const* text) { return TextLength(text); }
+
+char* CZEL_String::CS_Copy(char* dest, char const* src) { return std::strcpy(dest, src); }
+
+signed char CZEL_String::CS_Compare(char const* a, char const* b) { return OrderOfTexts(a, b, false); }
+
+// -----------------------------------------------------------------------------
+// Comparison
+// -----------------------------------------------------------------------------
+
+signed char CZEL_String::CompareMatchingCase(CZEL_String const& other) const {
+  return CS_Compare(m_Text, other.m_Text);
+}
+
+signed char CZEL_String::CompareMatchingCase(CZEL_String const& a, CZEL_String const& b) {
+  return a.CompareMatchingCase(b);
+}
+
+// The order of upper-cased copies of both texts, taken without making the
+// copies: each byte is upper-cased as it is compared.
+signed char CZEL_String::CompareNoMatchingCase(CZEL_String const& other) const {
+  return OrderOfTexts(m_Text, other.m_Text, true);
+}
+
+signed char CZEL_String::CompareNoMatchingCase(CZEL_String const& a, CZEL_String const& b) {
+  return a.CompareNoMatchingCase(b);
+}
+
+u8 CZEL_String::operator==(CZEL_String const& other) { return CompareMatchingCase(other) == 0; }
+u8 CZEL_String::operator!=(CZEL_String const& other) { return CompareMatchingCase(other) != 0; }
+u8 CZEL_String::operator<(CZEL_String const& other) { return CompareMatchingCase(other) < 0; }
+u8 CZEL_String::operator<=(CZEL_String const& other) { return CompareMatchingCase(other) < 1; }
+u8 CZEL_String::operator>(CZEL_String const& other) { return CompareMatchingCase(other) > 0; }
+u8 CZEL_String::operator>=(CZEL_String const& other) { return CompareMatchingCase(other) >= 0; }
+
+u8 operator==(char const* text, CZEL_String const& s) {
+  return CZEL_String::CS_Compare(text, s.GetStringC()) == 0;
+}
+
+u8 operator!=(char const* text, CZEL_String const& s) {
+  return CZEL_String::CS_Compare(text, s.GetStringC()) != 0;
+}
+
+u8 operator<(char const* text, CZEL_String const& s) {
+  return CZEL_String::CS_Compare(text, s.GetStringC()) < 0;
+}
+
+u8 operator<=(char const* text, CZEL_String const& s) {
+  return CZEL_String::CS_Compare(text, s.GetStringC()) < 1;
+}
+
+u8 operator>(char const* text, CZEL_String const& s) {
+  return CZEL_String::CS_Compare(text, s.GetStringC()) > 0;
+}
+
+u8 operator>=(char const* text, CZEL_String const& s) {
+  return CZEL_String::CS_Compare(text, s.GetStringC()) >= 0;
+}
+
+// Case-blind, A to Z on either side become a to z (32 added); every other
+// byte stays as it is.
+u8 CZEL_String::IsCharsEqual(char const& a, char const& b, u8 matchCase) const {
+  if (matchCase) return a == b;
+  auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  return lower(a) == lower(b);
+}
+
+// -----------------------------------------------------------------------------
+// Search
+// -----------------------------------------------------------------------------
+
+u8 CZEL_String::FindFromBegin(char c, u32* pos, u32 start) const {
+  for (u32 i = start; i < m_Length; ++i) {
+    if (m_Text[i] == c) {
+      *pos = i;
+      return 1;
+    }
+  }
+  return 0;
+}
+
+// A match must lie wholly within the text, so the scan ends at the last
+// position where `s` still fits.
+u8 CZEL_String::FindFromBegin(CZEL_String const& s, u32* pos, u8 matchCase, u32 start) const {
+  if (s.m_Length == 0 || s.m_Length > m_Length) return 0;
+  u32 const last = m_Length - s.m_Length;
+  for (u32 i = start; i <= last; ++i) {
+    if (MatchesAt(s, i, matchCase)) {
+      *pos = i;
+      return 1;
+    }
+  }
+  return 0;
+}
+
+// The scan may begin on the terminator, at the position of the length, and
+// so finds a `c` of 0 there.
+u8 CZEL_String::FindFromEnd(char c, u32* pos, u32 start) const {
+  if (m_Length == 0) return 0;
+  i64 const first = start > m_Length ? m_Length - 1 : start;
+  for (i64 i = first; i >= 0; --i) {
+    if (m_Text[i] == c) {
+      *pos = static_cast<u32>(i);
+      return 1;
+    }
+  }
+  return 0;
+}
+
+// Positions where `s` would run past the end can't match, so the scan starts
+// no later than the last position where it fits.
+u8 CZEL_String::FindFromEnd(CZEL_String const& s, u32* pos, u8 matchCase, u32 start) const {
+  if (s.m_Length == 0 || m_Length == 0) return 0;
+  i64 first = start > m_Length ? m_Length - 1 : start;
+  first = std::min<i64>(first, static_cast<i64>(m_Length) - s.m_Length);
+  for (i64 i = first; i >= 0; --i) {
+    if (MatchesAt(s, static_cast<u32>(i), matchCase)) {
+      *pos = static_cast<u32>(i);
+      return 1;
+    }
+  }
+  return 0;
+}
+
+u8 CZEL_String::MatchesAt(CZEL_String const& s, u32 pos, u8 matchCase) const {
+  if (static_cast<u64>(pos) + s.m_Length > m_Length) return 0;
+  for (u32 j = 0; j < s.m_Length; ++j) {
+    if (!IsCharsEqual(m_Text[pos + j], s.m_Text[j], matchCase)) return 0;
+  }
+  return 1;
+}
+
+// -----------------------------------------------------------------------------
+// Extraction
+// -----------------------------------------------------------------------------
+
+void CZEL_String::ExtractTags(char separator, CZEL_StringList& out) const {
+  out.DeleteAll();
+  ScanTags(m_Text, m_Length, separator,
+           [&out](char const* tag, u32 length) { out += CZEL_String(tag, length); });
+}
+
+// A first pass counts the tags, so that the vector is created once with its
+// exact length; the second assigns each tag to its place.
+void CZEL_String::ExtractTags(char separator, CZEL_StringVector& out) const {
+  u32 count = 0;
+  ScanTags(m_Text, m_Length, separator, [&count](char const*, u32) { ++count; });
+  if (count == 0) {
+    out.DeleteAll();
+    return;
+  }
+  out.Create(count);
+  CZEL_String* item = out.GetBuf();
+  ScanTags(m_Text, m_Length, separator,
+           [&item](char const* tag, u32 length) { *item++ = CZEL_String(tag, length); });
+}
+
+// `right` is looked for from the place after `left`; a `left` in the last
+// place leaves nothing to search, which counts as a missing `right`.
+u32 CZEL_String::ExtractEncapsulatedString(char left, char right, CZEL_String& out) const {
+  u32 uiLeft = 0;
+  u32 uiRight = 0;
+  if (!FindFromBegin(left, &uiLeft, 0)) return ZEL_ERR_BAD_FORMAT;
+  if (!FindFromBegin(CZEL_String(right), &uiRight, 1, uiLeft + 1)) return ZEL_ERR_BAD_FORMAT;
+  out = Mid(uiLeft + 1, uiRight - uiLeft - 1);
+  return ZEL_ERR_NONE;
 }
 
 // -----------------------------------------------------------------------------

@@ -13,6 +13,11 @@
 //   line.SetFormatted(8, CZEL_String::ALIGN_RIGHT, '.');  // "...hello"
 //   ZEL::u64 n = CZEL_String("1FH").ToUnsignedAutoRadix(2);  // 31
 //
+//   ZEL::u32 at = 0;
+//   CZEL_String("hello").FindFromBegin(CZEL_String("ll"), &at, 1, 0);  // 1, at is 2
+//   CZEL_StringList parts;   // <LZEL_Core/containers/CZEL_StringList.h>
+//   CZEL_String("a,,b").ExtractTags(',', parts);   // "a", "", "b"
+//
 // Storage
 //
 // A string owns one buffer of exactly `GetLength()` + 1 bytes, the last of
@@ -29,13 +34,23 @@
 // alone keep the buffer, and so does assigning a string of equal non-zero
 // length.
 //
+// Comparison and search
+//
+// Comparisons read a string as NUL-terminated text, up to its first 0 byte,
+// and order bytes as signed chars, so bytes from 128 up sort before all of
+// ASCII. Searches read all `GetLength()` characters, zeros included. The
+// relational operators are case-sensitive members that are not const; the
+// static comparators `CompareMatchingCase` and `CompareNoMatchingCase` have
+// the form that the containers' `Sort` takes.
+//
 // Quiet bounds
 //
-// No member throws a `CZEL_Exception` or returns an error code. A position or
-// count out of range has a defined quiet result, and that result differs
-// from operation to operation: `Left(99)` on "abc" gives "abc", while
-// `ResizeMid(3, 1)` on "abc" empties the string and `ResizeLeft(4)` leaves it
-// alone. Each member below states its own rule. A null `char const*` is never
+// No member throws a `CZEL_Exception`, and only `ExtractEncapsulatedString`
+// returns an error code. A position or count out of range has a defined
+// quiet result, and that result differs from operation to operation:
+// `Left(99)` on "abc" gives "abc", while `ResizeMid(3, 1)` on "abc" empties
+// the string and `ResizeLeft(4)` leaves it alone. Each member below states
+// its own rule. A null `char const*` is never
 // checked for: the caller must not pass one. A failed allocation passes
 // through as `std::bad_alloc`, and the string keeps its old text.
 
@@ -44,6 +59,10 @@
 
 #include <LZEL_Core/frame/CZEL_Object.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
+
+// The containers that `ExtractTags` fills; their headers include this one.
+class CZEL_StringList;
+class CZEL_StringVector;
 
 // ZEL_PRINTF_FORMAT
 //
@@ -254,6 +273,103 @@ class ZEL_API CZEL_String : public CZEL_Object {
   CZEL_String& SetFormatted(ZEL::u32 width, t_Align align, char fill);
 
   // ---------------------------------------------------------------------------
+  // NUL-terminated text
+  // ---------------------------------------------------------------------------
+  //
+  // Helpers for plain `char` arrays. Null pointers are not checked for.
+
+  // The number of bytes before the first 0.
+  static ZEL::u32 CS_GetLength(char const* text);
+
+  // Copies `src` with its terminator into `dest`, which must have room, and
+  // returns `dest`.
+  static char* CS_Copy(char* dest, char const* src);
+
+  // The order of two NUL-terminated texts: -1, 0 or 1. Bytes compare as
+  // signed chars, so 0xE9 sorts before 'A'; a text that ends sorts before
+  // one that goes on, whatever its next byte ("abc" before "abc\xE9").
+  static signed char CS_Compare(char const* a, char const* b);
+
+  // ---------------------------------------------------------------------------
+  // Comparison
+  // ---------------------------------------------------------------------------
+  //
+  // All comparisons read the texts up to their first 0 byte: two strings that
+  // agree up to an embedded 0 are equal, whatever their lengths. Results are
+  // -1, 0 or 1.
+
+  // `CS_Compare` of the two texts.
+  signed char CompareMatchingCase(CZEL_String const& other) const;
+  static signed char CompareMatchingCase(CZEL_String const& a, CZEL_String const& b);
+
+  // The order of the two texts with a to z taken as A to Z: "abc" and "ABC"
+  // are equal, and '[' and '_' sort after every letter.
+  signed char CompareNoMatchingCase(CZEL_String const& other) const;
+  static signed char CompareNoMatchingCase(CZEL_String const& a, CZEL_String const& b);
+
+  // 1 or 0 by `CompareMatchingCase(other)`: equal, unequal, below, at most,
+  // above, at least. Case-sensitive. A `char const*` on the right converts
+  // to a string; these members are not const.
+  ZEL::u8 operator==(CZEL_String const& other);
+  ZEL::u8 operator!=(CZEL_String const& other);
+  ZEL::u8 operator<(CZEL_String const& other);
+  ZEL::u8 operator<=(CZEL_String const& other);
+  ZEL::u8 operator>(CZEL_String const& other);
+  ZEL::u8 operator>=(CZEL_String const& other);
+
+  // ---------------------------------------------------------------------------
+  // Search
+  // ---------------------------------------------------------------------------
+  //
+  // Each search returns 1 and stores the position in `*pos` when it finds a
+  // match; otherwise it returns 0 and leaves `*pos` alone. With `matchCase`
+  // 0, A to Z match a to z.
+
+  // The first `c` at or after `start`. The terminator is never found; an
+  // empty string or a `start` at or past the length gives 0.
+  ZEL::u8 FindFromBegin(char c, ZEL::u32* pos, ZEL::u32 start) const;
+
+  // The first occurrence of `s` that begins at or after `start` and lies
+  // wholly within the string. An empty `s` or an empty string gives 0. On
+  // "abcabc", "bc" from 2 is found at 4, from 5 not at all.
+  ZEL::u8 FindFromBegin(CZEL_String const& s, ZEL::u32* pos, ZEL::u8 matchCase,
+                        ZEL::u32 start) const;
+
+  // The last `c` at or before `start`; a `start` above the length means the
+  // last character. A `start` equal to the length begins on the terminator,
+  // so a `c` of 0 is found there, at the position of the length. An empty
+  // string gives 0.
+  ZEL::u8 FindFromEnd(char c, ZEL::u32* pos, ZEL::u32 start) const;
+
+  // The last occurrence of `s` that begins at or before `start`; the match
+  // itself may reach past `start` ("bc" on "abcabc" from 1 is found at 1).
+  // A `start` above the length means the last character, so any larger
+  // value searches the whole string. An empty `s` or an empty string gives 0.
+  ZEL::u8 FindFromEnd(CZEL_String const& s, ZEL::u32* pos, ZEL::u8 matchCase,
+                      ZEL::u32 start) const;
+
+  // ---------------------------------------------------------------------------
+  // Extraction
+  // ---------------------------------------------------------------------------
+
+  // Replaces the items of `out` by the tags between the `separator`s, in
+  // order. Empty tags at the start and between separators are kept, an empty
+  // one after a final separator is not: "a,,b" gives "a", "", "b"; "," gives
+  // one empty tag; "a,b," gives "a", "b"; an empty string gives none. A tag
+  // may hold anything but the separator, zeros included.
+  void ExtractTags(char separator, CZEL_StringList& out) const;
+
+  // The same into a vector, created with exactly the number of tags, or
+  // emptied if there is none.
+  void ExtractTags(char separator, CZEL_StringVector& out) const;
+
+  // Puts into `out` the text between the first `left` and the first `right`
+  // after it, and returns 0: "[a[b]c]" gives "a[b", "x[]y" an empty text.
+  // `left` and `right` may be the same character. Returns ZEL_ERR_BAD_FORMAT,
+  // `out` left alone, if either is missing.
+  ZEL::u32 ExtractEncapsulatedString(char left, char right, CZEL_String& out) const;
+
+  // ---------------------------------------------------------------------------
   // Numbers as text
   // ---------------------------------------------------------------------------
 
@@ -343,6 +459,10 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // Makes this string a copy of `src`; `src` may be this string.
   void DataCopy(CZEL_String const& src);
 
+  // 1 if the bytes are equal; with `matchCase` 0, A to Z are first taken as
+  // a to z on either side.
+  ZEL::u8 IsCharsEqual(char const& a, char const& b, ZEL::u8 matchCase) const;
+
   // The buffer, `m_Length` + 1 bytes with a terminator at `m_Length`.
   char* m_Text;
   // The number of characters, without the terminator.
@@ -376,6 +496,11 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // Takes over `buffer` of `length` + 1 bytes and frees the old one.
   void Adopt(char* buffer, ZEL::u32 length);
 
+  // 1 if `s` occurs at `pos` under `matchCase`; a character of `s` that
+  // would lie at or past the end of this text is a mismatch. The matcher of
+  // both string searches.
+  ZEL::u8 MatchesAt(CZEL_String const& s, ZEL::u32 pos, ZEL::u8 matchCase) const;
+
   // The common form of `ReplaceChars` (`removed` equal to the cut `count`)
   // and `ReplaceString`.
   CZEL_String& Replace(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 removed, ZEL::u32 srcStart,
@@ -387,5 +512,14 @@ ZEL_API CZEL_String operator+(char c, CZEL_String const& s);
 
 // `text` followed by `s`; an empty `text` gives a copy of `s`.
 ZEL_API CZEL_String operator+(char const* text, CZEL_String const& s);
+
+// 1 or 0 by `CS_Compare(text, s.GetStringC())`, case-sensitive, as the
+// members with the string on the left.
+ZEL_API ZEL::u8 operator==(char const* text, CZEL_String const& s);
+ZEL_API ZEL::u8 operator!=(char const* text, CZEL_String const& s);
+ZEL_API ZEL::u8 operator<(char const* text, CZEL_String const& s);
+ZEL_API ZEL::u8 operator<=(char const* text, CZEL_String const& s);
+ZEL_API ZEL::u8 operator>(char const* text, CZEL_String const& s);
+ZEL_API ZEL::u8 operator>=(char const* text, CZEL_String const& s);
 
 #endif  // LZEL_CORE_TEXT_CZEL_STRING_H_
