@@ -330,6 +330,11 @@ class ZEL_API CZEL_List : public CZEL_Object {
   void AppendRun(SNode const* from, ZEL::u32 count);
   template <typename Source>
   void InsertRun(ZEL::u32 count, Source read, bool strict);
+  // The sources of InsertRun and Overwrite: each gives the address of the
+  // i-th item to take, or null where the source has run out.
+  static auto ArrayItems(T* src, ZEL::u32 srcStart);
+  static auto VectorItems(CZEL_Vector<T>& src, ZEL::u32 srcStart);
+  static auto ListItems(CZEL_List<T> const& src);
   template <typename Source>
   void Overwrite(ZEL::u32 count, Source read, bool strict);
 
@@ -665,35 +670,20 @@ CZEL_List<T>& CZEL_List<T>::operator&=(CZEL_Vector<T>& src) {
 
 template <typename T>
 CZEL_List<T>& CZEL_List<T>::InsertItems(T* src, ZEL::u32 count, ZEL::u32 srcStart) {
-  InsertRun(count, [src, srcStart](ZEL::u32 i) -> T const* { return &src[srcStart + i]; },
-            false);
+  InsertRun(count, ArrayItems(src, srcStart), false);
   return *this;
 }
 
 template <typename T>
 CZEL_List<T>& CZEL_List<T>::InsertItems(CZEL_Vector<T>& src, ZEL::u32 count,
                                         ZEL::u32 srcStart) {
-  InsertRun(
-      count,
-      [&src, srcStart](ZEL::u32 i) -> T const* {
-        ZEL::u32 const index = srcStart + i;
-        return index < src.GetLength() ? &src.GetBuf()[index] : nullptr;
-      },
-      false);
+  InsertRun(count, VectorItems(src, srcStart), false);
   return *this;
 }
 
 template <typename T>
 CZEL_List<T> CZEL_List<T>::InsertItems(CZEL_List<T>& src, ZEL::u32 count) {
-  InsertRun(
-      count,
-      [node = static_cast<SNode const*>(src.m_Cur)](ZEL::u32) mutable -> T const* {
-        if (node == nullptr) return nullptr;
-        T const* item = &node->m_Item;
-        node = node->m_pNext;
-        return item;
-      },
-      true);
+  InsertRun(count, ListItems(src), true);
   return *this;
 }
 
@@ -730,8 +720,7 @@ CZEL_List<T>& CZEL_List<T>::InsertList(CZEL_List<T>& src) {
 template <typename T>
 CZEL_List<T>& CZEL_List<T>::CopyItemsFrom(T* src, ZEL::u32 srcStart, ZEL::u32 count) {
   if (m_Cur == nullptr) Fail(ZEL_ERR_BAD_POSITION);
-  Overwrite(count, [src, srcStart](ZEL::u32 i) -> T const* { return &src[srcStart + i]; },
-            false);
+  Overwrite(count, ArrayItems(src, srcStart), false);
   return *this;
 }
 
@@ -739,27 +728,13 @@ template <typename T>
 CZEL_List<T>& CZEL_List<T>::CopyItemsFrom(CZEL_Vector<T>& src, ZEL::u32 srcStart,
                                           ZEL::u32 count) {
   if (m_Cur == nullptr) Fail(ZEL_ERR_BAD_POSITION);
-  Overwrite(
-      count,
-      [&src, srcStart](ZEL::u32 i) -> T const* {
-        ZEL::u64 const index = ZEL::u64(srcStart) + i;
-        return index < src.GetLength() ? &src.GetBuf()[index] : nullptr;
-      },
-      false);
+  Overwrite(count, VectorItems(src, srcStart), false);
   return *this;
 }
 
 template <typename T>
 CZEL_List<T>& CZEL_List<T>::CopyItemsFrom(CZEL_List<T>& src, ZEL::u32 count) {
-  Overwrite(
-      count,
-      [node = static_cast<SNode const*>(src.m_Cur)](ZEL::u32) mutable -> T const* {
-        if (node == nullptr) return nullptr;
-        T const* item = &node->m_Item;
-        node = node->m_pNext;
-        return item;
-      },
-      true);
+  Overwrite(count, ListItems(src), true);
   return *this;
 }
 
@@ -959,6 +934,31 @@ void CZEL_List<T>::AppendRun(SNode const* from, ZEL::u32 count) {
 // the cursor, linked forward to it at the end, while the cursor's back-link
 // stays. `read` gives null when its source has run out, which ends the run
 // quietly, or with ZEL_ERR_BAD_POSITION if `strict`.
+template <typename T>
+auto CZEL_List<T>::ArrayItems(T* src, ZEL::u32 srcStart) {
+  // The caller vouches for the array: no end is known.
+  return [src, srcStart](ZEL::u32 i) -> T const* { return &src[srcStart + i]; };
+}
+
+template <typename T>
+auto CZEL_List<T>::VectorItems(CZEL_Vector<T>& src, ZEL::u32 srcStart) {
+  return [&src, srcStart](ZEL::u32 i) -> T const* {
+    ZEL::u64 const index = ZEL::u64(srcStart) + i;
+    return index < src.GetLength() ? &src.GetBuf()[index] : nullptr;
+  };
+}
+
+template <typename T>
+auto CZEL_List<T>::ListItems(CZEL_List<T> const& src) {
+  // From src's cursor along the links; src's cursor itself stays.
+  return [node = static_cast<SNode const*>(src.m_Cur)](ZEL::u32) mutable -> T const* {
+    if (node == nullptr) return nullptr;
+    T const* item = &node->m_Item;
+    node = node->m_pNext;
+    return item;
+  };
+}
+
 template <typename T>
 template <typename Source>
 void CZEL_List<T>::InsertRun(ZEL::u32 count, Source read, bool strict) {
