@@ -793,7 +793,9 @@ CZEL_List<T>& CZEL_List<T>::DeleteItems(ZEL::u32 count) {
       m_Tail = prev;
       --m_Length;
       m_Cur = prev;
-      if (m_Head == nullptr) DeleteAll();  // frees any kept nodes
+      // Nodes that the links no longer reach stay counted; once the count
+      // is 0 too, the nodes kept after links went out of step are freed.
+      if (m_Head == nullptr && m_Length == 0) DeleteAll();
       break;
     }
     m_Cur = gone->m_pNext;
@@ -836,8 +838,10 @@ CZEL_List<T>& CZEL_List<T>::Truncate(ZEL::u8 fromStart) {
     n = following;
   }
   if (nothingLeft) {
+    // Nodes that the walk could not reach stay counted; once the count is 0
+    // too, the nodes kept after links went out of step are freed.
     m_Head = m_Tail = m_Cur = nullptr;
-    DeleteAll();  // frees any nodes kept after links went out of step
+    if (m_Length == 0) DeleteAll();
   } else if (fromStart) {
     m_Head = keep;
     keep->m_pPrev = nullptr;

@@ -113,7 +113,7 @@ class ZEL_API CZEL_Code : public CZEL_Object {
 
   // `Format(format)`, its code ignored: after a bad template the object is
   // empty.
-  explicit CZEL_Code(CZEL_String const& format);
+  CZEL_Code(CZEL_String const& format);
 
   // A copy with a template, names and values of its own.
   CZEL_Code(CZEL_Code const& other);

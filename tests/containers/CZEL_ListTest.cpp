@@ -287,6 +287,29 @@ TEST(CZEL_ListInsert, SecondInsertAtTheSameCursorReplacesTheFirstRun) {
   EXPECT_EQ(Forward(list), (IntList{1, 2, 9, 3}));
 }
 
+TEST(CZEL_ListInsert, EmptyingTheLinksKeepsUnreachedNodesCounted) {
+  // DeleteItems and Truncate count only the nodes they remove: after links
+  // went out of step, nodes they can't reach stay in the length.
+  L viaDelete = Make({1, 2, 3}, 0);
+  L src = Make({7, 8});
+  viaDelete.InsertList(src);  // 7, 8 before 1; the recorded tail is 8
+  viaDelete.ToStart();
+  viaDelete.DeleteItems(5);  // removes 7 and 8, stops at the recorded tail
+  EXPECT_EQ(viaDelete.GetLength(), 3u);
+  viaDelete += 9;
+  EXPECT_EQ(viaDelete.GetLength(), 4u);
+  EXPECT_EQ(Forward(viaDelete), (IntList{9}));
+
+  L viaTruncate = Make({1, 2, 3}, 1);
+  int raw[] = {7, 8};
+  viaTruncate.InsertItems(raw, 2, 0);  // 3's back-link passes over 7, 8
+  viaTruncate.ToEnd();
+  viaTruncate.Truncate(1);  // the back walk removes 3, 2, 1
+  EXPECT_EQ(viaTruncate.GetLength(), 2u);
+  viaTruncate.DeleteAll();
+  EXPECT_EQ(viaTruncate.GetLength(), 0u);
+}
+
 // Deletion ------------------------------------------------------------------------
 
 TEST(CZEL_ListDelete, DeleteItem) {
