@@ -14,17 +14,12 @@ std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.Ge
 
 std::string Field(CZEL_Code const& code, char const* name) { return Text(code.GetField(CZEL_String(name))); }
 
-// The shapes of the template that fail, and those that parse without a
-// complete field: both leave an object with no fields.
+// Templates that fail, and templates without a complete field: both leave an
+// object with no fields.
 TEST(CZEL_CodeTest, TemplatesThatLeaveTheObjectEmpty) {
-  struct Case {
-    char const* format;
-    ZEL::u32 code;
-  } const cases[] = {
-      {"<a><b>", ZEL_ERR_BAD_FORMAT},  {"<>", ZEL_ERR_BAD_FORMAT},      {"<a>x<a>", ZEL_ERR_BAD_FORMAT},
-      {"x<>y", ZEL_ERR_BAD_FORMAT},    {"<a>x<b><c>", ZEL_ERR_BAD_FORMAT},
-      {"abc", 0},                      {"", 0},                          {"abc<def", 0},
-      {"a>b", 0},                      {"<", 0},
+  struct Case { char const* format; ZEL::u32 code; } const cases[] = {
+      {"<a><b>", ZEL_ERR_BAD_FORMAT},     {"<>", ZEL_ERR_BAD_FORMAT}, {"<a>x<a>", ZEL_ERR_BAD_FORMAT},
+      {"<a>x<b><c>", ZEL_ERR_BAD_FORMAT}, {"", 0},                    {"abc<def", 0},                   {"a>b", 0},
   };
   for (Case const& c : cases) {
     CZEL_Code code(CZEL_String("<old>="));
@@ -39,18 +34,14 @@ TEST(CZEL_CodeTest, TemplatesThatLeaveTheObjectEmpty) {
 
 // Each field gets "v" followed by its name, then the coded string is built.
 TEST(CZEL_CodeTest, TemplateShapesBuildTheirCodedString) {
-  struct Case {
-    char const* format;
-    std::vector<char const*> fields;
-    char const* coded;
-  } const cases[] = {
+  struct Case { char const* format; std::vector<char const*> fields; char const* coded; } const cases[] = {
       {"id=<id>;name=<name>;", {"id", "name"}, "id=vid;name=vname"},  // last literal dropped
       {"<a>-<b>", {"a", "b"}, "va-vb"},
       {"<a>tail", {"a"}, "va"},
-      {"<a>b<c", {"a"}, "vab"},                  // unterminated field dropped, literal kept
-      {"a>b<c>", {"c"}, "a>bvc"},                // '>' outside a field is text
-      {"x<a<b>", {"a<b"}, "xva<b"},              // '<' inside a field is part of its name
-      {"<A>:<a>", {"A", "a"}, "vA:va"},          // names are case-sensitive
+      {"<a>b<c", {"a"}, "vab"},          // unterminated field dropped, literal kept
+      {"a>b<c>", {"c"}, "a>bvc"},        // '>' outside a field is text
+      {"x<a<b>", {"a<b"}, "xva<b"},      // '<' inside a field is part of its name
+      {"<A>:<a>", {"A", "a"}, "vA:va"},  // names are case-sensitive
   };
   for (Case const& c : cases) {
     CZEL_Code code;
@@ -63,25 +54,17 @@ TEST(CZEL_CodeTest, TemplateShapesBuildTheirCodedString) {
   }
 }
 
-// Set on a coded string; both fields hold "old" before. "(*this)": the
-// template has no such field.
+// Fields a and b hold "old" before; "(*this)": the template has no such field.
 TEST(CZEL_CodeTest, SetTakesACodedStringApart) {
-  struct Case {
-    char const* format;
-    char const* coded;
-    char const* a;
-    char const* b;
-  } const cases[] = {
-      {"a=<a>;b=<b>;", "a=7;b=x", "7", "x"},
-      {"a=<a>;b=<b>;", "a=7;b=x;", "7", "x;"},         // the last field takes the rest
-      {"a=<a>;b=<b>;", "a=7,b=x", "old", "old"},       // ";b=" missing: nothing changes
-      {"a=<a>;b=<b>;", "junk a=7;b=x", "7", "x"},      // text before the first literal skipped
-      {"a=<a>;b=<b>;", "A=7;b=x", "old", "old"},       // literals match with exact case
-      {"a=<a>;b=<b>;", "a=7;b=1;b=2", "7", "1;b=2"},
-      {"<a>-<b>", "1-2-3", "1", "2-3"},                {"<a>-<b>", "-2", "", "2"},
-      {"<a>-<b>", "1-", "1", "old"},                   // the last field keeps its value
-      {"<a>-<b>", "", "old", "old"},                   {"<a>b<c", "1b2", "1", "(*this)"},
-      {"<a>tail", "xyz", "xyz", "(*this)"},            {"[<a>]<b>", "x[1]2", "1", "2"},
+  struct Case { char const* format; char const* coded; char const* a; char const* b; } const cases[] = {
+      {"a=<a>;b=<b>;", "junk a=7;b=x", "7", "x"},   // text before the first literal skipped
+      {"a=<a>;b=<b>;", "a=7;b=x;", "7", "x;"},      // the last field takes the rest
+      {"a=<a>;b=<b>;", "a=7,b=x", "old", "old"},    // ";b=" missing: nothing changes
+      {"a=<a>;b=<b>;", "A=7;b=x", "old", "old"},    // literals match with exact case
+      {"<a>-<b>", "1-2-3", "1", "2-3"},             {"<a>-<b>", "-2", "", "2"},
+      {"<a>-<b>", "1-", "1", "old"},                // the last field keeps its value
+      {"<a>b<c", "1b2", "1", "(*this)"},            {"<a>tail", "xyz", "xyz", "(*this)"},
+      {"[<a>]<b>", "x[1]2", "1", "2"},
   };
   for (Case const& c : cases) {
     CZEL_Code code(CZEL_String(c.format));
@@ -127,8 +110,8 @@ TEST(CZEL_CodeTest, CopiesAreIndependentInEitherOrder) {
     auto source = std::make_unique<CZEL_Code>(CZEL_String("k=<k>;v=<v>;"));
     source->SetField("k", "1").SetField("v", "2");
     auto copy = std::make_unique<CZEL_Code>(*source);
-    auto assigned = std::make_unique<CZEL_Code>(CZEL_String("<old>x<older>"));
-    *assigned = *source;  // its earlier template is released
+    CZEL_Code assigned(CZEL_String("<old>x<older>"));
+    assigned = *source;  // its earlier template is released
     copy->SetField("k", "9");
     EXPECT_EQ(Text(source->GetString()), "k=1;v=2");
     (sourceFirst ? source : copy).reset();
@@ -137,13 +120,11 @@ TEST(CZEL_CodeTest, CopiesAreIndependentInEitherOrder) {
     survivor.Set(CZEL_String("k=3;v=4"));
     EXPECT_EQ(Text(survivor.GetString()), "k=3;v=4");
     survivor.Format(CZEL_String("<z>"));
-    EXPECT_EQ(Text(assigned->GetString()), "k=1;v=2");
+    EXPECT_EQ(Text(assigned.GetString()), "k=1;v=2");
   }
-
   CZEL_Code code(CZEL_String("<a>=<b>"));
   code.SetField("a", "x");
-  CZEL_Code& self = code;
-  code = self;
+  code = static_cast<CZEL_Code const&>(code);
   EXPECT_EQ(Text(code.GetString()), "x=");
   code = CZEL_Code();
   EXPECT_EQ(Field(code, "a"), "(*this)");
