@@ -1,5 +1,6 @@
-// Helpers shared by the container tests: reading a container's items without
-// disturbing what a test checks, and checking a thrown CZEL_Exception.
+// Helpers shared by the container tests: building containers of ints, reading
+// their items without disturbing what a test checks, and checking a thrown
+// CZEL_Exception.
 
 #ifndef LZEL_TESTS_CONTAINERS_CONTAINER_TEST_SUPPORT_H_
 #define LZEL_TESTS_CONTAINERS_CONTAINER_TEST_SUPPORT_H_
@@ -9,59 +10,74 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+#include <string>
 #include <vector>
 
 // Runs `statement`, which must throw CZEL_Exception(code, object, 0).
-#define EXPECT_ZEL_THROW(statement, code, object)                          \
-  do {                                                                     \
-    try {                                                                  \
-      statement;                                                           \
-      ADD_FAILURE() << "no exception from " #statement;                    \
-    } catch (CZEL_Exception const& e) {                                    \
-      EXPECT_EQ(e.m_Code, ZEL::u32(code)) << #statement;                   \
+#define EXPECT_ZEL_THROW(statement, code, object)                            \
+  do {                                                                       \
+    try {                                                                    \
+      statement;                                                             \
+      ADD_FAILURE() << "no exception from " #statement;                      \
+    } catch (CZEL_Exception const& e) {                                      \
+      EXPECT_EQ(e.m_Code, ZEL::u32(code)) << #statement;                     \
       EXPECT_EQ(e.m_Object, static_cast<void const*>(object)) << #statement; \
-      EXPECT_EQ(e.m_Extra, 0u) << #statement;                              \
-    }                                                                      \
+      EXPECT_EQ(e.m_Extra, 0u) << #statement;                                \
+    }                                                                        \
   } while (0)
 
 namespace zel_test {
 
-// All items of a vector, every one of them written by the test.
-template <typename T>
-std::vector<T> Items(CZEL_Vector<T> const& v) {
-  return std::vector<T>(v.GetBuf(), v.GetBuf() + v.GetLength());
+using IntList = std::vector<int>;
+using V = CZEL_Vector<int>;
+using L = CZEL_List<int>;
+
+inline V MakeVector(IntList items) {
+  V v;
+  if (!items.empty()) v.Create(items.data(), ZEL::u32(items.size()));
+  return v;
 }
 
-// The first `count` items of a vector (the rest may be unset).
+// A list of the items built by appending, with the cursor on position `cursor`.
+inline L MakeList(IntList const& items, ZEL::u32 cursor = 0) {
+  L list;
+  for (int item : items) list += item;
+  if (!items.empty()) list.ToPos(cursor);
+  return list;
+}
+
+// The first `count` items of a vector (the rest may be unset), or all of them.
 template <typename T>
 std::vector<T> Front(CZEL_Vector<T> const& v, ZEL::u32 count) {
   return std::vector<T>(v.GetBuf(), v.GetBuf() + count);
 }
-
-// The items along the forward links from the head. Leaves the cursor on the
-// last node reached.
 template <typename T>
-std::vector<T> Forward(CZEL_List<T>& list) {
-  std::vector<T> out;
-  if (list.GetLength() == 0) return out;
-  list.ToStart();
-  for (;;) {
-    out.push_back(list.CurItem());
-    if (list.ItemsToEnd() == 0) break;
-    list.Next(1);
-  }
-  return out;
-}
+std::vector<T> Items(CZEL_Vector<T> const& v) { return Front(v, v.GetLength()); }
 
-// A list of ints built by appending; the cursor ends on the tail.
-inline void Fill(CZEL_List<int>& list, std::vector<int> const& items) {
-  for (int item : items) list += item;
+// The items along the forward links from the head, the cursor's node in
+// brackets: "1 [2] 3". Leaves the cursor on the last node reached.
+template <typename T>
+std::string Show(CZEL_List<T>& list) {
+  void* const cursor = list.CurItemRef();
+  std::ostringstream out;
+  if (list.GetLength() == 0) return out.str();
+  for (list.ToStart();; list.Next(1)) {
+    if (list.CurItemRef() == cursor) {
+      out << '[' << list.CurItem() << ']';
+    } else {
+      out << list.CurItem();
+    }
+    if (list.ItemsToEnd() == 0) return out.str();
+    out << ' ';
+  }
 }
 
 // The list's cursor item, or -1 for no cursor.
-inline int Cursor(CZEL_List<int>& list) {
-  return list.CurItemRef() == nullptr ? -1 : list.CurItem();
-}
+inline int Cursor(L& list) { return list.CurItemRef() == nullptr ? -1 : list.CurItem(); }
+
+// The order of ints: 1 if a is greater, -1 if less, else 0.
+inline signed char ByValue(int const& a, int const& b) { return a > b ? 1 : a < b ? -1 : 0; }
 
 // An element with a sort key and an identity, to see the order of equal keys.
 struct Keyed {
@@ -70,10 +86,10 @@ struct Keyed {
   bool operator==(Keyed const& o) const { return key == o.key && tag == o.tag; }
   bool operator!=(Keyed const& o) const { return !(*this == o); }
 };
-
-inline signed char ByKey(Keyed const& a, Keyed const& b) {
-  return a.key > b.key ? 1 : a.key < b.key ? -1 : 0;
+inline std::ostream& operator<<(std::ostream& out, Keyed const& k) {
+  return out << k.key << ':' << k.tag;
 }
+inline signed char ByKey(Keyed const& a, Keyed const& b) { return ByValue(a.key, b.key); }
 
 }  // namespace zel_test
 
