@@ -14,6 +14,8 @@
 #include <LZEL_Core/text/CZEL_Code.h>
 #include <LZEL_Core/text/CZEL_String.h>
 
+#include "FuzzSupport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -24,11 +26,8 @@
 
 namespace {
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
+using zel_fuzz::Require;
+using zel_fuzz::Text;
 
 CZEL_String Make(std::string const& text) {
   return CZEL_String(text.data(), static_cast<ZEL::u32>(text.size()));

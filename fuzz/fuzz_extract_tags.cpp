@@ -8,21 +8,16 @@
 #include <LZEL_Core/containers/CZEL_StringVector.h>
 #include <LZEL_Core/text/CZEL_String.h>
 
+#include "FuzzSupport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
-namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
-
-}  // namespace
+using zel_fuzz::Require;
+using zel_fuzz::Text;
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   if (size == 0 || size > 1u << 16) return 0;

@@ -20,6 +20,7 @@
 
 #include <LZEL_Core/containers/CZEL_List.h>
 #include <LZEL_Core/containers/ZEL_NoItem.h>
+#include <LZEL_Core/containers/ZEL_Order.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
 template <typename T>
@@ -56,8 +57,7 @@ class ZEL_API CZEL_OrderedList : public CZEL_List<T> {
   static signed char Compare(T const& a, T const& b);
 
  private:
-  template <typename Better>
-  T& Extreme(Better better);
+  T& Extreme(bool (*beats)(T const&, T const&));
 };
 
 template <typename T>
@@ -87,30 +87,27 @@ CZEL_OrderedList<T>& CZEL_OrderedList<T>::Sort(ZEL::u8 ascending) {
 
 template <typename T>
 T& CZEL_OrderedList<T>::Min() {
-  return Extreme([](T const& item, T const& best) { return item < best; });
+  return Extreme(&ZEL::OrderBeats<true, T>);
 }
 
 template <typename T>
 T& CZEL_OrderedList<T>::Max() {
-  return Extreme([](T const& item, T const& best) { return item > best; });
+  return Extreme(&ZEL::OrderBeats<false, T>);
 }
 
 template <typename T>
 signed char CZEL_OrderedList<T>::Compare(T const& a, T const& b) {
-  if (a > b) return 1;
-  if (a < b) return -1;
-  return 0;
+  return ZEL::OrderCompare(a, b);
 }
 
 // The first item from the head that no later item beats strictly, found with
 // a node pointer of its own so that the cursor stays.
 template <typename T>
-template <typename Better>
-T& CZEL_OrderedList<T>::Extreme(Better better) {
+T& CZEL_OrderedList<T>::Extreme(bool (*beats)(T const&, T const&)) {
   if (this->m_Head == nullptr) return ZEL::NoItem<T>();
   typename CZEL_List<T>::SNode* best = this->m_Head;
   for (auto* n = best->m_pNext; n != nullptr; n = n->m_pNext) {
-    if (better(n->m_Item, best->m_Item)) best = n;
+    if (beats(n->m_Item, best->m_Item)) best = n;
   }
   return best->m_Item;
 }

@@ -25,6 +25,7 @@
 
 #include <LZEL_Core/containers/CZEL_Vector.h>
 #include <LZEL_Core/containers/ZEL_NoItem.h>
+#include <LZEL_Core/containers/ZEL_Order.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
 template <typename T>
@@ -64,8 +65,7 @@ class ZEL_API CZEL_OrderedVector : public CZEL_Vector<T> {
   static signed char Compare(T const& a, T const& b);
 
  private:
-  template <typename Better>
-  T& Extreme(Better better);
+  T& Extreme(bool (*beats)(T const&, T const&));
 };
 
 template <typename T>
@@ -99,29 +99,26 @@ CZEL_OrderedVector<T>& CZEL_OrderedVector<T>::Sort(ZEL::u8 ascending) {
 
 template <typename T>
 T& CZEL_OrderedVector<T>::Min() {
-  return Extreme([](T const& item, T const& best) { return item < best; });
+  return Extreme(&ZEL::OrderBeats<true, T>);
 }
 
 template <typename T>
 T& CZEL_OrderedVector<T>::Max() {
-  return Extreme([](T const& item, T const& best) { return item > best; });
+  return Extreme(&ZEL::OrderBeats<false, T>);
 }
 
 template <typename T>
 signed char CZEL_OrderedVector<T>::Compare(T const& a, T const& b) {
-  if (a > b) return 1;
-  if (a < b) return -1;
-  return 0;
+  return ZEL::OrderCompare(a, b);
 }
 
 // The first item that no later item beats strictly.
 template <typename T>
-template <typename Better>
-T& CZEL_OrderedVector<T>::Extreme(Better better) {
+T& CZEL_OrderedVector<T>::Extreme(bool (*beats)(T const&, T const&)) {
   if (this->m_Length == 0) return ZEL::NoItem<T>();
   ZEL::u32 best = 0;
   for (ZEL::u32 i = 1; i < this->m_Length; ++i) {
-    if (better(this->m_Buf[i], this->m_Buf[best])) best = i;
+    if (beats(this->m_Buf[i], this->m_Buf[best])) best = i;
   }
   return this->m_Buf[best];
 }
