@@ -13,7 +13,7 @@ namespace {
 
 void StringEditing() {
   CZEL_String s("Hello world");
-  s.Insert(',', 5);                    // "Hello, world"
+  s.Insert(',', 5);                     // "Hello, world"
   s.ReplaceString("LZEL", 7, 5, 0, 4);  // "Hello, LZEL"
   s += '!';
   std::cout << s.GetStringC() << " (" << s.GetLength() << " characters)\n";
@@ -68,8 +68,8 @@ void Containers() {
   CZEL_Uint8Vector record(6, 0);
   record.SetUint16(0x1234, 0, ZEL::ZEL_BIG_ENDIAN);
   record.SetUint32(0xCAFEF00D, 2, ZEL::ZEL_LITTLE_ENDIAN);
-  std::cout << "record tag 0x" << std::hex << record.GetUint16(0, ZEL::ZEL_BIG_ENDIAN)
-            << std::dec << "\n";
+  std::cout << "record tag 0x" << std::hex << record.GetUint16(0, ZEL::ZEL_BIG_ENDIAN) << std::dec
+            << "\n";
 }
 
 void FailureCodes() {

@@ -17,9 +17,7 @@ inline void Require(bool holds) {
 }
 
 // All `GetLength()` bytes of `s`, zeros included.
-inline std::string Text(CZEL_String const& s) {
-  return std::string(s.GetStringC(), s.GetLength());
-}
+inline std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
 
 }  // namespace zel_fuzz
 

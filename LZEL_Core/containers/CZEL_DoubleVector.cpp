@@ -4,8 +4,7 @@
 
 #include <cmath>
 
-ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_DoubleVector, CZEL_DoubleList, double,
-                             CZEL_OrderedVector<double>)
+ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_DoubleVector, CZEL_DoubleList, double, CZEL_OrderedVector<double>)
 
 double CZEL_DoubleVector::GetRMS() const {
   double sum = 0;

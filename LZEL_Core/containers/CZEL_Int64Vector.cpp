@@ -2,4 +2,5 @@
 
 #include <LZEL_Core/containers/CZEL_Int64List.h>
 
-ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Int64Vector, CZEL_Int64List, ZEL::i64, CZEL_OrderedVector<ZEL::i64>)
+ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Int64Vector, CZEL_Int64List, ZEL::i64,
+                             CZEL_OrderedVector<ZEL::i64>)

@@ -2,4 +2,5 @@
 
 #include <LZEL_Core/containers/CZEL_Int8List.h>
 
-ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Int8Vector, CZEL_Int8List, signed char, CZEL_OrderedVector<signed char>)
+ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Int8Vector, CZEL_Int8List, signed char,
+                             CZEL_OrderedVector<signed char>)

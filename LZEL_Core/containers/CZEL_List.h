@@ -675,8 +675,7 @@ CZEL_List<T>& CZEL_List<T>::InsertItems(T* src, ZEL::u32 count, ZEL::u32 srcStar
 }
 
 template <typename T>
-CZEL_List<T>& CZEL_List<T>::InsertItems(CZEL_Vector<T>& src, ZEL::u32 count,
-                                        ZEL::u32 srcStart) {
+CZEL_List<T>& CZEL_List<T>::InsertItems(CZEL_Vector<T>& src, ZEL::u32 count, ZEL::u32 srcStart) {
   InsertRun(count, VectorItems(src, srcStart), false);
   return *this;
 }
@@ -725,8 +724,7 @@ CZEL_List<T>& CZEL_List<T>::CopyItemsFrom(T* src, ZEL::u32 srcStart, ZEL::u32 co
 }
 
 template <typename T>
-CZEL_List<T>& CZEL_List<T>::CopyItemsFrom(CZEL_Vector<T>& src, ZEL::u32 srcStart,
-                                          ZEL::u32 count) {
+CZEL_List<T>& CZEL_List<T>::CopyItemsFrom(CZEL_Vector<T>& src, ZEL::u32 srcStart, ZEL::u32 count) {
   if (m_Cur == nullptr) Fail(ZEL_ERR_BAD_POSITION);
   Overwrite(count, VectorItems(src, srcStart), false);
   return *this;

@@ -82,8 +82,7 @@ template <typename T>
 CZEL_OrderedVector<T>::CZEL_OrderedVector(T* src, ZEL::u32 count) : CZEL_Vector<T>(src, count) {}
 
 template <typename T>
-CZEL_OrderedVector<T>::CZEL_OrderedVector(CZEL_OrderedVector<T> const& src)
-    : CZEL_Vector<T>(src) {}
+CZEL_OrderedVector<T>::CZEL_OrderedVector(CZEL_OrderedVector<T> const& src) : CZEL_Vector<T>(src) {}
 
 template <typename T>
 CZEL_OrderedVector<T>& CZEL_OrderedVector<T>::operator=(CZEL_OrderedVector<T> const& src) {

@@ -2,4 +2,5 @@
 
 #include <LZEL_Core/containers/CZEL_Uint16List.h>
 
-ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Uint16Vector, CZEL_Uint16List, ZEL::u16, CZEL_OrderedVector<ZEL::u16>)
+ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Uint16Vector, CZEL_Uint16List, ZEL::u16,
+                             CZEL_OrderedVector<ZEL::u16>)

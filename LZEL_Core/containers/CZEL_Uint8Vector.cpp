@@ -2,8 +2,7 @@
 
 #include <LZEL_Core/containers/CZEL_Uint8List.h>
 
-ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Uint8Vector, CZEL_Uint8List, ZEL::u8,
-                             CZEL_OrderedVector<ZEL::u8>)
+ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Uint8Vector, CZEL_Uint8List, ZEL::u8, CZEL_OrderedVector<ZEL::u8>)
 
 short CZEL_Uint8Vector::GetInt16(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
   return Get(pos, order, &ZEL::Int16FromBuf);

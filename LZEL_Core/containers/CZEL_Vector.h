@@ -191,8 +191,7 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
   // Stops quietly when the list reaches its tail, leaving the remaining slots
   // as they were; the list's cursor ends after the last item copied, or on
   // its tail. An empty list throws ZEL_ERR_BAD_POSITION from its `CurItem`.
-  CZEL_Vector<T>& CopyItemsFrom(ZEL::u32 pos, CZEL_List<T>& src, ZEL::u32 count,
-                                ZEL::u8 extend);
+  CZEL_Vector<T>& CopyItemsFrom(ZEL::u32 pos, CZEL_List<T>& src, ZEL::u32 count, ZEL::u8 extend);
 
   // Writes dest[destStart + i] = item[srcStart + i] while i is below count and
   // srcStart + i is below the length. Running out of items is no error.
@@ -204,8 +203,8 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
   // last count items fall off. Throws ZEL_ERR_INVALID_ARGUMENT if pos is above
   // length - 1 (unsigned, so an empty vector passes). A run that reaches past
   // the end grows the vector even without `extend`.
-  CZEL_Vector<T>& InsertItems(ZEL::u32 pos, CZEL_Vector<T>& src, ZEL::u32 count,
-                              ZEL::u32 srcStart, ZEL::u8 extend);
+  CZEL_Vector<T>& InsertItems(ZEL::u32 pos, CZEL_Vector<T>& src, ZEL::u32 count, ZEL::u32 srcStart,
+                              ZEL::u8 extend);
 
   // The same from a raw array.
   CZEL_Vector<T>& InsertItems(ZEL::u32 pos, T* src, ZEL::u32 count, ZEL::u32 srcStart,
@@ -371,7 +370,8 @@ void CZEL_Vector<T>::Create(ZEL::u32 count, T const& value) {
 template <typename T>
 void CZEL_Vector<T>::Create(T* src, ZEL::u32 count) {
   Create(count);
-  WriteFrom(0, [src](ZEL::u32 i) -> T const& { return src[i]; }, count);
+  WriteFrom(
+      0, [src](ZEL::u32 i) -> T const& { return src[i]; }, count);
 }
 
 template <typename T>
@@ -522,13 +522,12 @@ CZEL_Vector<T>& CZEL_Vector<T>::operator&=(CZEL_Vector<T>& src) {
 }
 
 template <typename T>
-CZEL_Vector<T>& CZEL_Vector<T>::CopyItemsFrom(ZEL::u32 pos, CZEL_Vector<T>& src,
-                                              ZEL::u32 srcStart, ZEL::u32 count,
-                                              ZEL::u8 extend) {
+CZEL_Vector<T>& CZEL_Vector<T>::CopyItemsFrom(ZEL::u32 pos, CZEL_Vector<T>& src, ZEL::u32 srcStart,
+                                              ZEL::u32 count, ZEL::u8 extend) {
   if (count == 0) return *this;
   FitRange(pos, count, extend);
-  WriteFrom(pos, [&src, srcStart](ZEL::u32 i) -> T const& { return src[srcStart + i]; },
-            count);
+  WriteFrom(
+      pos, [&src, srcStart](ZEL::u32 i) -> T const& { return src[srcStart + i]; }, count);
   return *this;
 }
 
@@ -537,7 +536,8 @@ CZEL_Vector<T>& CZEL_Vector<T>::CopyItemsFrom(ZEL::u32 pos, T* src, ZEL::u32 src
                                               ZEL::u32 count, ZEL::u8 extend) {
   if (count == 0) return *this;
   FitRange(pos, count, extend);
-  WriteFrom(pos, [src, srcStart](ZEL::u32 i) -> T const& { return src[srcStart + i]; }, count);
+  WriteFrom(
+      pos, [src, srcStart](ZEL::u32 i) -> T const& { return src[srcStart + i]; }, count);
   return *this;
 }
 
@@ -557,8 +557,8 @@ CZEL_Vector<T>& CZEL_Vector<T>::InsertItems(ZEL::u32 pos, CZEL_Vector<T>& src, Z
 }
 
 template <typename T>
-CZEL_Vector<T>& CZEL_Vector<T>::InsertItems(ZEL::u32 pos, T* src, ZEL::u32 count,
-                                            ZEL::u32 srcStart, ZEL::u8 extend) {
+CZEL_Vector<T>& CZEL_Vector<T>::InsertItems(ZEL::u32 pos, T* src, ZEL::u32 count, ZEL::u32 srcStart,
+                                            ZEL::u8 extend) {
   OpenGap(pos, count, extend);
   return CopyItemsFrom(pos, src, srcStart, count, 1);
 }
@@ -708,7 +708,8 @@ void CZEL_Vector<T>::Fail(ZEL::u32 code) const {
 
 template <typename T>
 void CZEL_Vector<T>::WriteRun(ZEL::u32 pos, T const& value, ZEL::u32 count) {
-  WriteFrom(pos, [&value](ZEL::u32) -> T const& { return value; }, count);
+  WriteFrom(
+      pos, [&value](ZEL::u32) -> T const& { return value; }, count);
 }
 
 // Writes item[pos + i] = read(i) for i below count, in rising order. A range

@@ -40,7 +40,6 @@
   X(float)                       \
   X(double)
 
-#define ZEL_CONTAINER_VALUES(X) \
-  X(CZEL_String)
+#define ZEL_CONTAINER_VALUES(X) X(CZEL_String)
 
 #endif  // LZEL_CORE_CONTAINERS_ZEL_CONTAINER_ELEMENTS_H_

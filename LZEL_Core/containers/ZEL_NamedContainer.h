@@ -51,75 +51,75 @@
 #include <LZEL_Core/frame/ZEL_Types.h>
 
 // Declares the members of named list class L over T; V is its vector class.
-#define ZEL_NAMED_LIST_MEMBERS(L, V, T)    \
- public:                                   \
-  L();                                     \
-  L(ZEL::u32 count, T const& value);       \
-  L(T* src, ZEL::u32 count);               \
-  L(L const& src);                         \
-  L& operator=(L const& src);              \
-  L& operator=(CZEL_List<T> const& src);   \
-  L& operator=(V& src);                    \
+#define ZEL_NAMED_LIST_MEMBERS(L, V, T)  \
+ public:                                 \
+  L();                                   \
+  L(ZEL::u32 count, T const& value);     \
+  L(T* src, ZEL::u32 count);             \
+  L(L const& src);                       \
+  L& operator=(L const& src);            \
+  L& operator=(CZEL_List<T> const& src); \
+  L& operator=(V& src);                  \
   L& operator=(CZEL_Vector<T>& src);
 
 // Defines them, in a source file where L and V are both complete.
-#define ZEL_NAMED_LIST_DEFINITIONS(L, V, T, Base)                 \
-  L::L() : Base() {}                                              \
-  L::L(ZEL::u32 count, T const& value) : Base(count, value) {}    \
-  L::L(T* src, ZEL::u32 count) : Base(src, count) {}              \
-  L::L(L const& src) : Base(src) {}                               \
-  L& L::operator=(L const& src) {                                 \
-    CZEL_List<T>::operator=(src);                                 \
-    return *this;                                                 \
-  }                                                               \
-  L& L::operator=(CZEL_List<T> const& src) {                      \
-    CZEL_List<T>::operator=(src);                                 \
-    return *this;                                                 \
-  }                                                               \
-  L& L::operator=(V& src) {                                       \
-    CZEL_List<T>::operator=(static_cast<CZEL_Vector<T>&>(src));   \
-    return *this;                                                 \
-  }                                                               \
-  L& L::operator=(CZEL_Vector<T>& src) {                          \
-    CZEL_List<T>::operator=(src);                                 \
-    return *this;                                                 \
+#define ZEL_NAMED_LIST_DEFINITIONS(L, V, T, Base)               \
+  L::L() : Base() {}                                            \
+  L::L(ZEL::u32 count, T const& value) : Base(count, value) {}  \
+  L::L(T* src, ZEL::u32 count) : Base(src, count) {}            \
+  L::L(L const& src) : Base(src) {}                             \
+  L& L::operator=(L const& src) {                               \
+    CZEL_List<T>::operator=(src);                               \
+    return *this;                                               \
+  }                                                             \
+  L& L::operator=(CZEL_List<T> const& src) {                    \
+    CZEL_List<T>::operator=(src);                               \
+    return *this;                                               \
+  }                                                             \
+  L& L::operator=(V& src) {                                     \
+    CZEL_List<T>::operator=(static_cast<CZEL_Vector<T>&>(src)); \
+    return *this;                                               \
+  }                                                             \
+  L& L::operator=(CZEL_Vector<T>& src) {                        \
+    CZEL_List<T>::operator=(src);                               \
+    return *this;                                               \
   }
 
 // Declares the members of named vector class V over T; L is its list class.
-#define ZEL_NAMED_VECTOR_MEMBERS(V, L, T)    \
- public:                                     \
-  V();                                       \
-  explicit V(ZEL::u32 count);                \
-  V(ZEL::u32 count, T const& value);         \
-  V(T* src, ZEL::u32 count);                 \
-  V(V const& src);                           \
-  V& operator=(V const& src);                \
-  V& operator=(CZEL_Vector<T> const& src);   \
-  V& operator=(L& src);                      \
+#define ZEL_NAMED_VECTOR_MEMBERS(V, L, T)  \
+ public:                                   \
+  V();                                     \
+  explicit V(ZEL::u32 count);              \
+  V(ZEL::u32 count, T const& value);       \
+  V(T* src, ZEL::u32 count);               \
+  V(V const& src);                         \
+  V& operator=(V const& src);              \
+  V& operator=(CZEL_Vector<T> const& src); \
+  V& operator=(L& src);                    \
   V& operator=(CZEL_List<T>& src);
 
 // Defines them, in a source file where V and L are both complete.
-#define ZEL_NAMED_VECTOR_DEFINITIONS(V, L, T, Base)               \
-  V::V() : Base() {}                                              \
-  V::V(ZEL::u32 count) : Base(count) {}                           \
-  V::V(ZEL::u32 count, T const& value) : Base(count, value) {}    \
-  V::V(T* src, ZEL::u32 count) : Base(src, count) {}              \
-  V::V(V const& src) : Base(src) {}                               \
-  V& V::operator=(V const& src) {                                 \
-    CZEL_Vector<T>::operator=(src);                               \
-    return *this;                                                 \
-  }                                                               \
-  V& V::operator=(CZEL_Vector<T> const& src) {                    \
-    CZEL_Vector<T>::operator=(src);                               \
-    return *this;                                                 \
-  }                                                               \
-  V& V::operator=(L& src) {                                       \
-    CZEL_Vector<T>::operator=(static_cast<CZEL_List<T>&>(src));   \
-    return *this;                                                 \
-  }                                                               \
-  V& V::operator=(CZEL_List<T>& src) {                            \
-    CZEL_Vector<T>::operator=(src);                               \
-    return *this;                                                 \
+#define ZEL_NAMED_VECTOR_DEFINITIONS(V, L, T, Base)             \
+  V::V() : Base() {}                                            \
+  V::V(ZEL::u32 count) : Base(count) {}                         \
+  V::V(ZEL::u32 count, T const& value) : Base(count, value) {}  \
+  V::V(T* src, ZEL::u32 count) : Base(src, count) {}            \
+  V::V(V const& src) : Base(src) {}                             \
+  V& V::operator=(V const& src) {                               \
+    CZEL_Vector<T>::operator=(src);                             \
+    return *this;                                               \
+  }                                                             \
+  V& V::operator=(CZEL_Vector<T> const& src) {                  \
+    CZEL_Vector<T>::operator=(src);                             \
+    return *this;                                               \
+  }                                                             \
+  V& V::operator=(L& src) {                                     \
+    CZEL_Vector<T>::operator=(static_cast<CZEL_List<T>&>(src)); \
+    return *this;                                               \
+  }                                                             \
+  V& V::operator=(CZEL_List<T>& src) {                          \
+    CZEL_Vector<T>::operator=(src);                             \
+    return *this;                                               \
   }
 
 #endif  // LZEL_CORE_CONTAINERS_ZEL_NAMED_CONTAINER_H_

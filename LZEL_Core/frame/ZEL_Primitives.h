@@ -150,8 +150,7 @@ ZEL_API i64 GetSignedField(u64 value, u32 start, u32 width, t_ZEL_NumberRepr rep
 // Codes `number` in representation `repr` and writes it into the field with
 // the 64-bit `SetField`, which cuts it to the field. No range check is made.
 // An unknown `repr` clears the field.
-ZEL_API void SetSignedField(u64& word, u32 start, u32 width, i64 number,
-                            t_ZEL_NumberRepr repr);
+ZEL_API void SetSignedField(u64& word, u32 start, u32 width, i64 number, t_ZEL_NumberRepr repr);
 
 // The binary value of a field of min(`digits`, 16) decimal digits of 4 bits
 // each, the least significant digit at `start`. Nibbles above 9 count with

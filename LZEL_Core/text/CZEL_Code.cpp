@@ -60,7 +60,8 @@ struct SListRelease {
 
 CZEL_Code::CFormatNode::CFormatNode() : m_Type(NODE_FIELD), m_Data(nullptr) {}
 
-CZEL_Code::CFormatNode::CFormatNode(CFormatNode const& other) : m_Type(other.m_Type), m_Data(other.m_Data) {}
+CZEL_Code::CFormatNode::CFormatNode(CFormatNode const& other)
+    : m_Type(other.m_Type), m_Data(other.m_Data) {}
 
 CZEL_Code::CFormatNode& CZEL_Code::CFormatNode::operator=(CFormatNode const& other) {
   m_Type = other.m_Type;
@@ -215,7 +216,9 @@ CZEL_Code& CZEL_Code::Set(CZEL_Code& other) {
   return *this;
 }
 
-u8 CZEL_Code::FindField(CZEL_String const& name, u32* pos) const { return m_Names.FindToEnd(name, pos, 0); }
+u8 CZEL_Code::FindField(CZEL_String const& name, u32* pos) const {
+  return m_Names.FindToEnd(name, pos, 0);
+}
 
 // -----------------------------------------------------------------------------
 // Coded strings

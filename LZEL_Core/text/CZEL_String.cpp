@@ -305,7 +305,8 @@ CZEL_String& CZEL_String::ReplaceString(CZEL_String const& src, u32 pos, u32 old
 // difference wrapping in 32 bits and read as signed: a removal that runs
 // past the end leaves no tail, and a `pos` past the end keeps the whole text
 // as the head, so the new run is appended.
-CZEL_String& CZEL_String::Replace(CZEL_String const& src, u32 pos, u32 removed, u32 srcStart, u32 count) {
+CZEL_String& CZEL_String::Replace(CZEL_String const& src, u32 pos, u32 removed, u32 srcStart,
+                                  u32 count) {
   count = Cut(count, src.m_Length);
   auto rest = static_cast<std::int32_t>(m_Length - pos - removed);
   SPiece tail = rest > 0 ? RightPart(static_cast<u32>(rest)) : SPiece{nullptr, 0};
@@ -392,7 +393,9 @@ u32 CZEL_String::CS_GetLength(char const* text) { return TextLength(text); }
 
 char* CZEL_String::CS_Copy(char* dest, char const* src) { return std::strcpy(dest, src); }
 
-signed char CZEL_String::CS_Compare(char const* a, char const* b) { return OrderOfTexts(a, b, false); }
+signed char CZEL_String::CS_Compare(char const* a, char const* b) {
+  return OrderOfTexts(a, b, false);
+}
 
 // -----------------------------------------------------------------------------
 // Comparison
@@ -658,7 +661,8 @@ u64 CZEL_String::ToUnsignedAutoRadix(u32 mode) const {
   if (s.m_Length == 0) return 0;
   char marker = '?';
   if (mode == 1) {
-    if (s.m_Length >= 2 && s.m_Text[0] == '0' && s.m_Text[1] == 'X') return Right(m_Length - 2).ToUnsigned(16);
+    if (s.m_Length >= 2 && s.m_Text[0] == '0' && s.m_Text[1] == 'X')
+      return Right(m_Length - 2).ToUnsigned(16);
     u32 index = 0;
     while (index < s.m_Length && !IsStopChar(s.m_Text[index])) marker = s.m_Text[index++];
     if (index == s.m_Length) return 0;
@@ -713,7 +717,9 @@ void CZEL_String::Adopt(char* buffer, u32 length) {
   m_Length = length;
 }
 
-CZEL_String::SPiece CZEL_String::LeftPart(u32 count) const { return SPiece{m_Text, Cut(count, m_Length)}; }
+CZEL_String::SPiece CZEL_String::LeftPart(u32 count) const {
+  return SPiece{m_Text, Cut(count, m_Length)};
+}
 
 CZEL_String::SPiece CZEL_String::RightPart(u32 count) const {
   u32 length = Cut(count, m_Length);
@@ -730,7 +736,8 @@ void CZEL_String::Compose(SPiece a, SPiece b, SPiece c) {
   char* buffer = Allocate(length);
   char* at = buffer;
   for (SPiece const& piece : {a, b, c}) {
-    if (piece.m_Text != nullptr && piece.m_Length != 0) std::memcpy(at, piece.m_Text, piece.m_Length);
+    if (piece.m_Text != nullptr && piece.m_Length != 0)
+      std::memcpy(at, piece.m_Text, piece.m_Length);
     at += piece.m_Length;
   }
   Adopt(buffer, length);

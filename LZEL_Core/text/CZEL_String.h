@@ -235,7 +235,8 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // `src` supplies fewer (a `srcStart` past the end of `src` supplies none):
   // "abcd".ReplaceChars("XY", 1, 5, 2) gives "ad". A `pos` at or past the end
   // appends: "abcd".ReplaceChars("XY", 9, 0, 2) gives "abcdXY".
-  CZEL_String& ReplaceChars(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 srcStart, ZEL::u32 count);
+  CZEL_String& ReplaceChars(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 srcStart,
+                            ZEL::u32 count);
 
   // Replaces `oldCount` characters at `pos` with `src.Mid(srcStart, count)`,
   // `count` being first cut to the length of `src`. The kept tail is the last
@@ -243,8 +244,8 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // 32 bits: when it isn't above 0 there is no tail, so an `oldCount` past
   // the end removes the rest ("abcd".ReplaceString("XYZ", 1, 9, 0, 3) gives
   // "aXYZ"). A `pos` at or past the end appends. `src` may be this string.
-  CZEL_String& ReplaceString(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 oldCount, ZEL::u32 srcStart,
-                             ZEL::u32 count);
+  CZEL_String& ReplaceString(CZEL_String const& src, ZEL::u32 pos, ZEL::u32 oldCount,
+                             ZEL::u32 srcStart, ZEL::u32 count);
 
   // Becomes `count` copies of `c`; empty for a `count` of 0.
   CZEL_String& Build(ZEL::u32 count, char c);
@@ -345,8 +346,7 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // itself may reach past `start` ("bc" on "abcabc" from 1 is found at 1).
   // A `start` above the length means the last character, so any larger
   // value searches the whole string. An empty `s` or an empty string gives 0.
-  ZEL::u8 FindFromEnd(CZEL_String const& s, ZEL::u32* pos, ZEL::u8 matchCase,
-                      ZEL::u32 start) const;
+  ZEL::u8 FindFromEnd(CZEL_String const& s, ZEL::u32* pos, ZEL::u8 matchCase, ZEL::u32 start) const;
 
   // ---------------------------------------------------------------------------
   // Extraction

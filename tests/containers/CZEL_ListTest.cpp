@@ -259,8 +259,8 @@ TEST(CZEL_ListDelete, DeleteItemsAndDeleteItem) {
     char const* after;
   };
   Row const rows[] = {
-      {2, 99, "1 [2]"},   {1, 0, "1 [2] 3 4"}, {0, 2, "[3] 4"},     {0, 4, ""},
-      {1, 2, "1 [4]"},    {3, 1, "1 2 [3]"},   {0, 1, "[2] 3 4"},   {1, 1, "1 [3] 4"},
+      {2, 99, "1 [2]"}, {1, 0, "1 [2] 3 4"}, {0, 2, "[3] 4"},   {0, 4, ""},
+      {1, 2, "1 [4]"},  {3, 1, "1 2 [3]"},   {0, 1, "[2] 3 4"}, {1, 1, "1 [3] 4"},
   };
   for (Row const& r : rows) {
     // DeleteItem removes what DeleteItems(1) removes and moves the cursor alike.

@@ -45,7 +45,7 @@ TEST(CZEL_OrderedExtremes, FirstOfEqualExtremesIsTheItemItself) {
   list.Min() = 0;
   list.Max() = 9;
   EXPECT_EQ(Show(list), "9 0 1 [3]");  // the cursor does not move
-  CZEL_OrderedVector<int>().Min();  // no throw; the reference is not to be used
+  CZEL_OrderedVector<int>().Min();     // no throw; the reference is not to be used
   CZEL_OrderedList<int>().Max();
   double nanFirst[] = {std::numeric_limits<double>::quiet_NaN(), -1, 5};
   CZEL_OrderedVector<double> d(nanFirst, 3);

@@ -14,9 +14,13 @@ constexpr Order kLittle = ZEL::ZEL_LITTLE_ENDIAN;
 constexpr Order kBig = ZEL::ZEL_BIG_ENDIAN;
 
 // A getter and a setter (of the value 1) for the typed field `Type`.
-#define FIELD(Type, width)                                                                \
-  {#Type, width, [](B& v, ZEL::u32 p, Order o) { return double(v.Get##Type(p, o)); }, \
-   [](B& v, ZEL::u32 p, Order o) { v.Set##Type(1, p, o); }}
+#define FIELD(Type, width)                                                                       \
+  {                                                                                              \
+#Type, width,                                                                                \
+        [](B & v, ZEL::u32 p,                                                                    \
+           Order o) { return double(v.Get##Type(p, o)); }, [](B & v, ZEL::u32 p,                 \
+                                                              Order o) { v.Set##Type(1, p, o); } \
+  }
 
 TEST(CZEL_Uint8VectorAccess, EveryFieldMustFitTheLengthInBothOrders) {
   struct Field {

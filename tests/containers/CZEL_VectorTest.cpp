@@ -31,8 +31,9 @@ TEST(CZEL_VectorSizing, RecreateKeepsFromStart) {
     IntList front;  // the slots that hold defined values
   };
   Row const rows[] = {
-      {3, 2, true, {30, 40, 7}}, {6, 0, true, {10, 20, 30, 40, 7, 7}}, {2, 1, false, {20, 30}},
-      {2, 9, true, {7, 7}},      {0, 0, false, {}},
+      {3, 2, true, {30, 40, 7}}, {6, 0, true, {10, 20, 30, 40, 7, 7}},
+      {2, 1, false, {20, 30}},   {2, 9, true, {7, 7}},
+      {0, 0, false, {}},
   };
   for (Row const& r : rows) {
     V v = MakeVector({10, 20, 30, 40});
@@ -130,7 +131,7 @@ TEST(CZEL_VectorCopies, InsertValues) {
   EXPECT_EQ(Items(b), (IntList{1, 9, 9, 2}));
   V c = MakeVector({1, 2});
   EXPECT_ZEL_THROW(c.InsertItems(2, 9, 1, 0), ZEL_ERR_INVALID_ARGUMENT, &c);
-  c.InsertItems(2, 9, 1, 1);  // at the end only with the growth
+  c.InsertItems(2, 9, 1, 1);     // at the end only with the growth
   c.InsertItems(0, c[1], 1, 1);  // the value lies in the released array
   EXPECT_EQ(Items(c), (IntList{2, 1, 2, 9}));
   V empty;
@@ -158,8 +159,10 @@ TEST(CZEL_VectorCopies, DeleteItems) {
     IntList after;
   };
   Row const rows[] = {
-      {{1, 2, 3, 4}, 1, 2, 0, {1, 4, 3, 4}}, {{1, 2, 3, 4}, 1, 2, 1, {1, 4}},
-      {{1, 2, 3, 4}, 1, 99, 1, {1}},         {{1}, 0, 1, 1, {}},
+      {{1, 2, 3, 4}, 1, 2, 0, {1, 4, 3, 4}},
+      {{1, 2, 3, 4}, 1, 2, 1, {1, 4}},
+      {{1, 2, 3, 4}, 1, 99, 1, {1}},
+      {{1}, 0, 1, 1, {}},
       {{1, 2, 3}, 1, 0xFFFFFFFFu, 0, {1, 2, 3}},
   };
   for (Row const& r : rows) {
@@ -339,8 +342,8 @@ TEST(CZEL_VectorSort, OrdersAndKeepsPassingUntilTheComparatorThrows) {
     V v = MakeVector({3, 1, 4, 1, 5, 9, 2, 6});
     IntEscaping::Reset(200);
     EXPECT_THROW(v.Sort(&IntEscaping::Compare, ascending), Escape);
-    EXPECT_EQ(Items(v), ascending ? (IntList{1, 1, 2, 3, 4, 5, 6, 9})
-                                  : (IntList{9, 6, 5, 4, 3, 2, 1, 1}));
+    EXPECT_EQ(Items(v),
+              ascending ? (IntList{1, 1, 2, 3, 4, 5, 6, 9}) : (IntList{9, 6, 5, 4, 3, 2, 1, 1}));
   }
 }
 

@@ -53,7 +53,9 @@ std::vector<T> Front(CZEL_Vector<T> const& v, ZEL::u32 count) {
   return std::vector<T>(v.GetBuf(), v.GetBuf() + count);
 }
 template <typename T>
-std::vector<T> Items(CZEL_Vector<T> const& v) { return Front(v, v.GetLength()); }
+std::vector<T> Items(CZEL_Vector<T> const& v) {
+  return Front(v, v.GetLength());
+}
 
 // The items along the forward links from the head, the cursor's node in
 // brackets: "1 [2] 3". Leaves the cursor on the last node reached.

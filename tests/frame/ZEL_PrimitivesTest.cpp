@@ -51,12 +51,16 @@ TEST(ZEL_PrimitivesSigned, GetSignedFieldReadsEachRepresentation) {
     u32 start, width, repr;
     i64 expected;
   } const rows[] = {
-      {0xE, 0, 4, ZEL_REPR_ONES_COMPLEMENT, -1}, {0xE, 0, 4, ZEL_REPR_TWOS_COMPLEMENT, -2},
-      {0xE, 0, 4, ZEL_REPR_SIGN_MAGNITUDE, -6},  {0xE, 0, 4, ZEL_REPR_OFFSET_BINARY, 6},
+      {0xE, 0, 4, ZEL_REPR_ONES_COMPLEMENT, -1},
+      {0xE, 0, 4, ZEL_REPR_TWOS_COMPLEMENT, -2},
+      {0xE, 0, 4, ZEL_REPR_SIGN_MAGNITUDE, -6},
+      {0xE, 0, 4, ZEL_REPR_OFFSET_BINARY, 6},
       {0xE, 0, 4, ZEL_REPR_UNSIGNED, 14},
       {kPattern, 8, 64, ZEL_REPR_TWOS_COMPLEMENT, static_cast<i64>(kPattern)},
-      {1, 0, 1, ZEL_REPR_TWOS_COMPLEMENT, 0},    {1, 0, 1, ZEL_REPR_UNSIGNED, 1},
-      {0, 0, 1, ZEL_REPR_OFFSET_BINARY, -1},     {0xE, 0, 4, 5, 0},
+      {1, 0, 1, ZEL_REPR_TWOS_COMPLEMENT, 0},
+      {1, 0, 1, ZEL_REPR_UNSIGNED, 1},
+      {0, 0, 1, ZEL_REPR_OFFSET_BINARY, -1},
+      {0xE, 0, 4, 5, 0},
   };
   for (Row const& r : rows) {
     EXPECT_EQ(GetSignedField(r.value, r.start, r.width, Repr(r.repr)), r.expected)
@@ -68,8 +72,11 @@ TEST(ZEL_PrimitivesSigned, SetSignedFieldCodesMinusOneInEightBits) {
   struct Row {
     u32 repr;
     u64 stored;
-  } const rows[] = {{ZEL_REPR_ONES_COMPLEMENT, 0xFE}, {ZEL_REPR_TWOS_COMPLEMENT, 0xFF},
-                    {ZEL_REPR_SIGN_MAGNITUDE, 0x81}, {ZEL_REPR_OFFSET_BINARY, 0x7F}, {5, 0}};
+  } const rows[] = {{ZEL_REPR_ONES_COMPLEMENT, 0xFE},
+                    {ZEL_REPR_TWOS_COMPLEMENT, 0xFF},
+                    {ZEL_REPR_SIGN_MAGNITUDE, 0x81},
+                    {ZEL_REPR_OFFSET_BINARY, 0x7F},
+                    {5, 0}};
   for (Row const& r : rows) {
     u64 w = kAll;
     SetSignedField(w, 16, 8, -1, Repr(r.repr));

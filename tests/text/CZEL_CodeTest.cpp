@@ -12,13 +12,21 @@ namespace {
 
 std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
 
-std::string Field(CZEL_Code const& code, char const* name) { return Text(code.GetField(CZEL_String(name))); }
+std::string Field(CZEL_Code const& code, char const* name) {
+  return Text(code.GetField(CZEL_String(name)));
+}
 
 // Failing templates, and templates without a complete field, leave no fields.
 TEST(CZEL_CodeTest, TemplatesThatLeaveTheObjectEmpty) {
-  struct Case { char const* format; ZEL::u32 code; } const cases[] = {
-      {"<a><b>", ZEL_ERR_BAD_FORMAT}, {"<>", ZEL_ERR_BAD_FORMAT}, {"<a>x<a>", ZEL_ERR_BAD_FORMAT},
-      {"", 0}, {"abc<def", 0},
+  struct Case {
+    char const* format;
+    ZEL::u32 code;
+  } const cases[] = {
+      {"<a><b>", ZEL_ERR_BAD_FORMAT},
+      {"<>", ZEL_ERR_BAD_FORMAT},
+      {"<a>x<a>", ZEL_ERR_BAD_FORMAT},
+      {"", 0},
+      {"abc<def", 0},
   };
   for (Case const& c : cases) {
     CZEL_Code code(CZEL_String("<old>="));
@@ -32,7 +40,11 @@ TEST(CZEL_CodeTest, TemplatesThatLeaveTheObjectEmpty) {
 
 // Each field gets "v" followed by its name, then the coded string is built.
 TEST(CZEL_CodeTest, TemplateShapesBuildTheirCodedString) {
-  struct Case { char const* format; std::vector<char const*> fields; char const* coded; } const cases[] = {
+  struct Case {
+    char const* format;
+    std::vector<char const*> fields;
+    char const* coded;
+  } const cases[] = {
       {"id=<id>;name=<name>;", {"id", "name"}, "id=vid;name=vname"},  // last literal dropped
       {"<a>b<c", {"a"}, "vab"},          // unterminated field dropped, literal kept
       {"a>b<c>", {"c"}, "a>bvc"},        // '>' outside a field is text
@@ -49,13 +61,18 @@ TEST(CZEL_CodeTest, TemplateShapesBuildTheirCodedString) {
 
 // Fields a and b hold "old" before; "(*this)": the template has no such field.
 TEST(CZEL_CodeTest, SetTakesACodedStringApart) {
-  struct Case { char const* format; char const* coded; char const* a; char const* b; } const cases[] = {
-      {"a=<a>;b=<b>;", "junk a=7;b=x", "7", "x"},   // text before the first literal skipped
-      {"a=<a>;b=<b>;", "a=7;b=x;", "7", "x;"},      // the last field takes the rest
-      {"a=<a>;b=<b>;", "a=7,b=x", "old", "old"},    // ";b=" missing: nothing changes
-      {"a=<a>;b=<b>;", "A=7;b=x", "old", "old"},    // literals match with exact case
+  struct Case {
+    char const* format;
+    char const* coded;
+    char const* a;
+    char const* b;
+  } const cases[] = {
+      {"a=<a>;b=<b>;", "junk a=7;b=x", "7", "x"},  // text before the first literal skipped
+      {"a=<a>;b=<b>;", "a=7;b=x;", "7", "x;"},     // the last field takes the rest
+      {"a=<a>;b=<b>;", "a=7,b=x", "old", "old"},   // ";b=" missing: nothing changes
+      {"a=<a>;b=<b>;", "A=7;b=x", "old", "old"},   // literals match with exact case
       {"<a>-<b>", "1-2-3", "1", "2-3"},
-      {"<a>-<b>", "1-", "1", "old"},                // the last field keeps its value
+      {"<a>-<b>", "1-", "1", "old"},  // the last field keeps its value
       {"<a>b<c", "1b2", "1", "(*this)"},
   };
   for (Case const& c : cases) {

@@ -15,7 +15,9 @@ using namespace std::string_literals;
 namespace {
 
 std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
-CZEL_String Make(std::string const& text) { return CZEL_String(text.data(), static_cast<ZEL::u32>(text.size())); }
+CZEL_String Make(std::string const& text) {
+  return CZEL_String(text.data(), static_cast<ZEL::u32>(text.size()));
+}
 
 // The string holds `expected`, every byte, in a buffer with a terminator after them.
 ::testing::AssertionResult Holds(CZEL_String const& s, std::string const& expected) {
@@ -23,7 +25,8 @@ CZEL_String Make(std::string const& text) { return CZEL_String(text.data(), stat
     return ::testing::AssertionFailure() << "no terminated buffer";
   }
   if (Text(s) == expected) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure() << "holds \"" << Text(s) << "\", expected \"" << expected << '"';
+  return ::testing::AssertionFailure()
+         << "holds \"" << Text(s) << "\", expected \"" << expected << '"';
 }
 
 CZEL_String const kXY("XY");
@@ -38,8 +41,10 @@ struct Edit {
   std::string expected;
 };
 
-#define EXPR(start, expr, expected) \
-  Edit { #expr, start, [](CZEL_String& s) -> CZEL_String& { return expr; }, expected }
+#define EXPR(start, expr, expected)                                              \
+  Edit {                                                                         \
+#expr, start, [](CZEL_String & s) -> CZEL_String& { return expr; }, expected \
+  }
 #define EDIT(start, call, expected) EXPR(start, s.call, expected)     // in place
 #define GET(start, call, expected) EXPR(start, s = s.call, expected)  // a new string
 #define FIT(start, width, align, expected) \
@@ -56,9 +61,12 @@ void RunEdits(std::initializer_list<Edit> edits) {
 // The source may be the string itself.
 TEST(CZEL_StringTest, SelfAssignAndAppend) {
   RunEdits({
-      EXPR("abc", s = static_cast<CZEL_String const&>(s), "abc"), EXPR("xyz", s = s.GetStringC() + 1, "yz"),
-      EXPR("ab", s += s, "abab"),                  EXPR("x", s += CZEL_String("ab\0c", 4), "xab\0c"s),
-      EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),   EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
+      EXPR("abc", s = static_cast<CZEL_String const&>(s), "abc"),
+      EXPR("xyz", s = s.GetStringC() + 1, "yz"),
+      EXPR("ab", s += s, "abab"),
+      EXPR("x", s += CZEL_String("ab\0c", 4), "xab\0c"s),
+      EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),
+      EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
   });
 }
 
@@ -68,59 +76,101 @@ TEST(CZEL_StringTest, SelfAssignAndAppend) {
 // ReplaceString keeps a tail only while length - pos - oldCount, signed, is above 0.
 TEST(CZEL_StringTest, OutOfRangeEdits) {
   RunEdits({
-      GET("abc", Left(99), "abc"),                          EDIT("abc", ResizeLeft(4), "abc"),
-      GET("abc", Right(99), "abc"),                         EDIT("abc", ResizeRight(4), "abc"),
-      GET("abc", Mid(1, 0xFFFFFFFF), "bc"),                 EDIT("abc", ResizeMid(1, 99), "bc"),
-      EDIT("abc", ResizeMid(3, 1), ""),                     GET("abc", Mid(3, 1), ""),
-      EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),           EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
-      EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),          EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
-      EDIT("abc", Insert('x', 4), "abc"),                   EDIT("abc", RemoveChars(1, 99), "a"),
-      EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),       EDIT("abcd", ReplaceChars(kXY, 1, 1, 2), "aYd"),
-      EDIT("abcd", ReplaceChars(kXY, 9, 0, 2), "abcdXY"),   EDIT("abcd", ReplaceString(kXYZ, 1, 9, 0, 3), "aXYZ"),
+      GET("abc", Left(99), "abc"),
+      EDIT("abc", ResizeLeft(4), "abc"),
+      GET("abc", Right(99), "abc"),
+      EDIT("abc", ResizeRight(4), "abc"),
+      GET("abc", Mid(1, 0xFFFFFFFF), "bc"),
+      EDIT("abc", ResizeMid(1, 99), "bc"),
+      EDIT("abc", ResizeMid(3, 1), ""),
+      GET("abc", Mid(3, 1), ""),
+      EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),
+      EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
+      EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),
+      EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
+      EDIT("abc", Insert('x', 4), "abc"),
+      EDIT("abc", RemoveChars(1, 99), "a"),
+      EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),
+      EDIT("abcd", ReplaceChars(kXY, 1, 1, 2), "aYd"),
+      EDIT("abcd", ReplaceChars(kXY, 9, 0, 2), "abcdXY"),
+      EDIT("abcd", ReplaceString(kXYZ, 1, 9, 0, 3), "aXYZ"),
       EDIT("abcd", ReplaceString(kXYZ, 1, 1, 0, 3), "aXYZcd"),
-      EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3), "aXYZabcd"),  // 4 - 1 - 0xFFFFFFFF wraps to 4
+      EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3),
+           "aXYZabcd"),  // 4 - 1 - 0xFFFFFFFF wraps to 4
   });
 }
 
 // Centred text starts at (width - length) / 2, or at 0 when it doesn't fit.
 TEST(CZEL_StringTest, TrimAndSetFormatted) {
   RunEdits({
-      EDIT("  a  ", Trim(' ', 1), "a  "),  EDIT("  a  ", Trim(' ', 2), "  a"),  EDIT("  a  ", Trim(' ', 3), "a"),
-      EDIT("  a  ", Trim(' ', 4), "  a  "), EDIT("   ", Trim(' ', 2), ""),
-      FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."), FIT("ab", 3, CZEL_String::ALIGN_CENTER, "ab."),
-      FIT("abcd", 2, CZEL_String::ALIGN_RIGHT, "cd"),   FIT("abcd", 2, CZEL_String::ALIGN_CENTER, "ab"),
+      EDIT("  a  ", Trim(' ', 1), "a  "),
+      EDIT("  a  ", Trim(' ', 2), "  a"),
+      EDIT("  a  ", Trim(' ', 3), "a"),
+      EDIT("  a  ", Trim(' ', 4), "  a  "),
+      EDIT("   ", Trim(' ', 2), ""),
+      FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."),
+      FIT("ab", 3, CZEL_String::ALIGN_CENTER, "ab."),
+      FIT("abcd", 2, CZEL_String::ALIGN_RIGHT, "cd"),
+      FIT("abcd", 2, CZEL_String::ALIGN_CENTER, "ab"),
       FIT("abcd", 3, 7, "..."),
-      EDIT("abc", Format("<%s>", std::string(100000, 'q').c_str()), "<" + std::string(100000, 'q') + ">"),
+      EDIT("abc", Format("<%s>", std::string(100000, 'q').c_str()),
+           "<" + std::string(100000, 'q') + ">"),
   });
 }
 
 TEST(CZEL_StringTest, FromNumberGroups) {
-  struct Case { ZEL::u64 value; ZEL::u32 radix, group; char separator; std::string expected; } const cases[] = {
-      {999, 10, 3, ',', "999"}, {1234567, 10, 3, ',', "1,234,567"}, {36, 37, 0, ',', "{"},
-      {std::numeric_limits<ZEL::u64>::max(), 10, 3, '\0', "18\0" "446\0" "744\0" "073\0" "709\0" "551\0" "615"s},
+  struct Case {
+    ZEL::u64 value;
+    ZEL::u32 radix, group;
+    char separator;
+    std::string expected;
+  } const cases[] = {
+      {999, 10, 3, ',', "999"},
+      {1234567, 10, 3, ',', "1,234,567"},
+      {36, 37, 0, ',', "{"},
+      {std::numeric_limits<ZEL::u64>::max(), 10, 3, '\0',
+       "18\0"
+       "446\0"
+       "744\0"
+       "073\0"
+       "709\0"
+       "551\0"
+       "615"s},
   };
   for (Case const& c : cases) {
-    EXPECT_TRUE(Holds(CZEL_String::FromNumber(c.value, c.radix, c.group, c.separator), c.expected)) << c.value;
+    EXPECT_TRUE(Holds(CZEL_String::FromNumber(c.value, c.radix, c.group, c.separator), c.expected))
+        << c.value;
   }
 }
 
 // Mode 1 reads the marker before the number, mode 2 after it.
 TEST(CZEL_StringTest, ToUnsignedAutoRadix) {
-  struct Case { ZEL::u32 mode; std::string text; ZEL::u64 expected; } const cases[] = {
-      {1, "0x1F", 31}, {1, "O17", 15},   {1, "1F", 1},      {1, "B101", 0},   {1, "HO17", 15},  {1, "[12", 12},
-      {1, "H", 0},     {1, "H1F  ", 31}, {1, "  H1F", 0},   {1, "  0x1F", 31}, {1, " 0x1F", 0},
-      {2, "1fh", 31},  {2, "17O", 15},   {2, "101B", 101},  {2, "ABCh", 2748}, {2, "12XH", 12},
-      {2, "1F\0H"s, 31}, {2, "\t1FH", 31}, {2, "1FH ", 1},  {2, "   ", 0},    {0, "1FH", 0},    {3, "H1F", 0},
+  struct Case {
+    ZEL::u32 mode;
+    std::string text;
+    ZEL::u64 expected;
+  } const cases[] = {
+      {1, "0x1F", 31}, {1, "O17", 15},    {1, "1F", 1},     {1, "B101", 0},   {1, "HO17", 15},
+      {1, "[12", 12},  {1, "H", 0},       {1, "H1F  ", 31}, {1, "  H1F", 0},  {1, "  0x1F", 31},
+      {1, " 0x1F", 0}, {2, "1fh", 31},    {2, "17O", 15},   {2, "101B", 101}, {2, "ABCh", 2748},
+      {2, "12XH", 12}, {2, "1F\0H"s, 31}, {2, "\t1FH", 31}, {2, "1FH ", 1},   {2, "   ", 0},
+      {0, "1FH", 0},   {3, "H1F", 0},
   };
   for (Case const& c : cases) {
-    EXPECT_EQ(Make(c.text).ToUnsignedAutoRadix(c.mode), c.expected) << "mode " << c.mode << " on " << c.text;
+    EXPECT_EQ(Make(c.text).ToUnsignedAutoRadix(c.mode), c.expected)
+        << "mode " << c.mode << " on " << c.text;
   }
 }
 
 // Bytes compare as signed chars; "blind" ignores case.
 TEST(CZEL_StringTest, CompareOrdersSignedBytes) {
-  struct Case { char const* a; char const* b; signed char matching, blind; } const cases[] = {
-      {"a", "ab", -1, -1}, {"\xE9", "A", -1, -1}, {"abc\xE9", "abc", 1, 1}, {"abc", "ABC", 1, 0}, {"_", "z", -1, 1},
+  struct Case {
+    char const* a;
+    char const* b;
+    signed char matching, blind;
+  } const cases[] = {
+      {"a", "ab", -1, -1},  {"\xE9", "A", -1, -1}, {"abc\xE9", "abc", 1, 1},
+      {"abc", "ABC", 1, 0}, {"_", "z", -1, 1},
   };
   for (Case const& c : cases) {
     CZEL_String a(c.a);
@@ -143,7 +193,8 @@ TEST(CZEL_StringTest, SearchBounds) {
   EXPECT_TRUE(s.FindFromEnd('c', &pos, 99) && pos == 5);
   EXPECT_TRUE(s.FindFromBegin(CZEL_String("bc"), &pos, 1, 4) && pos == 4);
   EXPECT_EQ(s.FindFromBegin(CZEL_String("bc"), &pos, 1, 5), 0);
-  EXPECT_TRUE(s.FindFromEnd(CZEL_String("bc"), &pos, 1, 1) && pos == 1);  // the match reaches past start
+  EXPECT_TRUE(s.FindFromEnd(CZEL_String("bc"), &pos, 1, 1) &&
+              pos == 1);  // the match reaches past start
   EXPECT_EQ(s.FindFromEnd(CZEL_String("bc"), &pos, 1, 0), 0);
   EXPECT_EQ(s.FindFromBegin(CZEL_String(""), &pos, 1, 0), 0);
 }
@@ -156,7 +207,10 @@ std::vector<std::string> Items(Container& items) {
 }
 
 TEST(CZEL_StringTest, ExtractTagsKeepsInnerEmptyTagsAndDropsAFinalOne) {
-  struct Case { std::string text; std::vector<std::string> tags; } const cases[] = {
+  struct Case {
+    std::string text;
+    std::vector<std::string> tags;
+  } const cases[] = {
       {"a,b,", {"a", "b"}}, {",a", {"", "a"}}, {"a,,b", {"a", "", "b"}}, {",", {""}}, {"", {}},
   };
   for (Case const& c : cases) {
@@ -172,9 +226,16 @@ TEST(CZEL_StringTest, ExtractTagsKeepsInnerEmptyTagsAndDropsAFinalOne) {
 
 // On failure `out` keeps its text.
 TEST(CZEL_StringTest, ExtractEncapsulatedString) {
-  struct Case { char const* text; ZEL::u32 code; char const* out; } const cases[] = {
-      {"x[]y", 0, ""}, {"[a[b]c]", 0, "a[b"}, {"]x[y]", 0, "y"},
-      {"x[abc", ZEL_ERR_BAD_FORMAT, "kept"}, {"abc]", ZEL_ERR_BAD_FORMAT, "kept"},
+  struct Case {
+    char const* text;
+    ZEL::u32 code;
+    char const* out;
+  } const cases[] = {
+      {"x[]y", 0, ""},
+      {"[a[b]c]", 0, "a[b"},
+      {"]x[y]", 0, "y"},
+      {"x[abc", ZEL_ERR_BAD_FORMAT, "kept"},
+      {"abc]", ZEL_ERR_BAD_FORMAT, "kept"},
   };
   for (Case const& c : cases) {
     CZEL_String out("kept");
@@ -185,8 +246,13 @@ TEST(CZEL_StringTest, ExtractEncapsulatedString) {
 
 // "A" and "a", equal without case, keep their order; the cursor follows its node.
 TEST(CZEL_StringTest, StringListSort) {
-  struct Case { ZEL::u8 ascending, matchCase; std::vector<std::string> sorted; } const cases[] = {
-      {1, 1, {"A", "C", "_", "a", "b"}}, {0, 1, {"b", "a", "_", "C", "A"}}, {1, 0, {"A", "a", "b", "C", "_"}},
+  struct Case {
+    ZEL::u8 ascending, matchCase;
+    std::vector<std::string> sorted;
+  } const cases[] = {
+      {1, 1, {"A", "C", "_", "a", "b"}},
+      {0, 1, {"b", "a", "_", "C", "A"}},
+      {1, 0, {"A", "a", "b", "C", "_"}},
       {0, 0, {"_", "C", "b", "A", "a"}},
   };
   for (Case const& c : cases) {
