@@ -16,5 +16,10 @@
 #include <LZEL_Core/frame/ZEL_Frame.h>
 #include <LZEL_Core/text/ZEL_Text.h>
 #include <LZEL_Core/containers/ZEL_Containers.h>
+#include <LZEL_Core/values/ZEL_Values.h>
+#include <LZEL_Core/calendar/ZEL_Calendar.h>
+#include <LZEL_Core/geometry/ZEL_Geometry.h>
+#include <LZEL_Core/net/ZEL_Net.h>
+#include <LZEL_Core/io/ZEL_Io.h>
 
 #endif  // LZEL_CORE_LZEL_CORE_H_

@@ -1,0 +1,10 @@
+// -----------------------------------------------------------------------------
+// File: ZEL_Calendar.h
+// -----------------------------------------------------------------------------
+//
+// Dates in five calendars and times of day in one include.
+
+#ifndef LZEL_CORE_CALENDAR_ZEL_CALENDAR_H_
+#define LZEL_CORE_CALENDAR_ZEL_CALENDAR_H_
+
+#endif  // LZEL_CORE_CALENDAR_ZEL_CALENDAR_H_

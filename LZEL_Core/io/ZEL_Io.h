@@ -1,0 +1,10 @@
+// -----------------------------------------------------------------------------
+// File: ZEL_Io.h
+// -----------------------------------------------------------------------------
+//
+// Files, typed byte streams and the file formats on them in one include.
+
+#ifndef LZEL_CORE_IO_ZEL_IO_H_
+#define LZEL_CORE_IO_ZEL_IO_H_
+
+#endif  // LZEL_CORE_IO_ZEL_IO_H_

@@ -1,0 +1,10 @@
+// -----------------------------------------------------------------------------
+// File: ZEL_Net.h
+// -----------------------------------------------------------------------------
+//
+// IP addresses in one include.
+
+#ifndef LZEL_CORE_NET_ZEL_NET_H_
+#define LZEL_CORE_NET_ZEL_NET_H_
+
+#endif  // LZEL_CORE_NET_ZEL_NET_H_

@@ -1,0 +1,10 @@
+// -----------------------------------------------------------------------------
+// File: ZEL_Values.h
+// -----------------------------------------------------------------------------
+//
+// The bit-level and arithmetic value types in one include.
+
+#ifndef LZEL_CORE_VALUES_ZEL_VALUES_H_
+#define LZEL_CORE_VALUES_ZEL_VALUES_H_
+
+#endif  // LZEL_CORE_VALUES_ZEL_VALUES_H_
