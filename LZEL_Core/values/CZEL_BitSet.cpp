@@ -222,6 +222,7 @@ u64 CZEL_BitSet::GetFieldUnsigned(u32 start, u32 count) const {
 
 CZEL_BitSet& CZEL_BitSet::SetField(u32 start, u32 count, CZEL_BitSet const& source) {
   if (&source == this) {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): `source` is this set
     CZEL_BitSet const before(source);
     return SetField(start, count, before);
   }
@@ -252,6 +253,7 @@ CZEL_BitSet CZEL_BitSet::Join(CZEL_BitSet const& other) const {
 CZEL_BitSet& CZEL_BitSet::Merge(CZEL_BitSet const& other, u8 append) {
   if (IsValid() == 0 || other.IsValid() == 0) throw CZEL_Exception(ZEL_ERR_FAILED, this, 0);
   if (&other == this) {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): `other` is this set
     CZEL_BitSet const before(other);
     return Merge(before, append);
   }
