@@ -7,4 +7,6 @@
 #ifndef LZEL_CORE_VALUES_ZEL_VALUES_H_
 #define LZEL_CORE_VALUES_ZEL_VALUES_H_
 
+#include <LZEL_Core/values/CZEL_DecimalNumber.h>
+
 #endif  // LZEL_CORE_VALUES_ZEL_VALUES_H_
