@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 #include <string>
 
@@ -13,222 +14,121 @@ using D = CZEL_DecimalNumber;
 
 namespace {
 
-constexpr auto kDot = D::DecimalPoint_Dot;
 constexpr auto kComma = D::DecimalPoint_Comma;
 constexpr auto kEither = D::DecimalPoint_DotOrComma;
 
-// Opens the protected helpers and fields to the tests.
-class Probe : public D {
- public:
-  explicit Probe(D const& d) : D(d) {}
-  using D::GetMaxDec;
-  using D::RoundDecimal;
-  static i64 Value(D const& d) { return Probe(d).m_Value; }
-  static u16 Places(D const& d) { return Probe(d).m_NumDigits; }
-};
-
 std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
-D Parse(u16 places, char const* text, D::t_DecimalPointType type = kDot) {
+D T(u16 places, char const* text, D::t_DecimalPointType type = D::DecimalPoint_Dot) {
   return D(places, text, type);
 }
+D Moved(D d, u16 places) { return d.ChangeNumDigits(places); }
 
-TEST(CZEL_DecimalNumberTest, MaxDecAndRoundDecimal) {
-  EXPECT_EQ(Probe::GetMaxDec(0), 1u);
-  EXPECT_EQ(Probe::GetMaxDec(19), 10000000000000000000u);
-  EXPECT_EQ(Probe::GetMaxDec(20), 7766279631452241920u);  // wrapped
-  EXPECT_EQ(Probe::GetMaxDec(64), 0u);
-  struct Case {
-    u16 places;
-    u64 decimal;
-    u16 expected;
-  } const cases[] = {
-      {2, 5, 5},
-      {2, 99, 99},
-      {2, 100, 10},
-      {2, 456, 46},
-      {2, 454, 45},
-      {2, 999, 100},
-      {0, 1, 0},
-      {0, 5, 1},
-      {2, 57920, 58},
-      {5, 99999, 34463},
-      {2, std::numeric_limits<u64>::max(), 18},
-  };
-  for (Case const& c : cases)
-    EXPECT_EQ(Probe::RoundDecimal(c.places, c.decimal), c.expected) << c.places << " " << c.decimal;
+// `expr` gives a number whose grouped text form is `expected`; up to 4
+// places that shows its places as well as its value.
+struct Row {
+  char const* expr;
+  D number;
+  char const* expected;
+};
+#define ROW(expr, expected) \
+  Row { #expr, expr, expected }
+
+void Check(std::initializer_list<Row> rows) {
+  for (Row const& r : rows) EXPECT_EQ(Text(r.number.ToString('.', ',')), r.expected) << r.expr;
 }
 
-// The integer wraps through the unsigned forms and the fraction is added after it.
-TEST(CZEL_DecimalNumberTest, IntegerForms) {
-  EXPECT_EQ(Probe::Value(D()), 0);
-  EXPECT_EQ(Probe::Places(D()), 2);
-  EXPECT_EQ(Probe::Value(D(2, i64{-5}, u16{25})), -475);
-  EXPECT_EQ(Probe::Value(D(2, i64{-5})), -500);
-  EXPECT_EQ(Probe::Value(D(3).Set(u64{7}, 25, 1)), -7025);
-  EXPECT_EQ(Probe::Value(D(2).Set(u64{1}, 999, 0)), 200);
-  EXPECT_EQ(Probe::Value(D(0).Set(u64{1} << 63, 0, 1)), std::numeric_limits<i64>::min());
-}
-
-TEST(CZEL_DecimalNumberTest, TextSetter) {
-  struct Case {
-    u16 places;
-    char const* text;
-    D::t_DecimalPointType type;
-    i64 expected;
-  } const cases[] = {
-      {2, "1.25", kDot, 125},
-      {2, "  -1.25  ", kDot, -125},
-      {2, "- 1.25", kDot, -125},
-      {2, "1,5", kDot, 100},
-      {2, "-1,5", kComma, -150},
-      {2, "1,5", kEither, 150},
-      {2, "1.5", kComma, 100},
-      {2, "1.2,5", kEither, 102},
-      {2, "1,234.5", kEither, 150},
-      {2, "1.5", D::t_DecimalPointType(7), 100},
-      {2, "-.5", kDot, -50},
-      {2, "+2.5", kDot, 250},
-      {2, "12abc", kDot, 1200},
-      {2, "-12", kDot, -1200},
-      {2, "", kDot, 0},
-      {2, "abc", kDot, 0},
-      {2, "1.005", kDot, 105},
-      {2, "1.00456", kDot, 146},
-      {2, "1.999", kDot, 200},
-      {2, "1.123456", kDot, 158},
-      {2, "1.-5", kDot, 166},
-      {4, "1.5", kDot, 15000},
-      {0, "1.5", kDot, 2},
-      {0, "1.4", kDot, 1},
-      {0, "99999999999999999999.0", kDot, -1},  // saturated, then wrapped
-  };
-  for (Case const& c : cases)
-    EXPECT_EQ(Probe::Value(Parse(c.places, c.text, c.type)), c.expected) << c.text;
-}
-
-// The fraction is rounded once more by size, so a carry to a whole is lost.
-TEST(CZEL_DecimalNumberTest, DoubleSetter) {
-  struct Case {
-    u16 places;
-    double number;
-    i64 expected;
-  } const cases[] = {
-      {2, -1.25, -125},    {2, 1.999, 110}, {2, 0.999, 10}, {0, 1.5, 1},          {2, 0.125, 13},
-      {4, 3.14159, 31416}, {2, -0.0, 0},    {5, 0.7, 4464}, {2, std::nan(""), 0}, {2, -HUGE_VAL, 0},
-  };
-  for (Case const& c : cases)
-    EXPECT_EQ(Probe::Value(D(c.places, c.number)), c.expected) << c.number;
-  EXPECT_EQ(Probe::Value(D(0, 1e20)), i64{7766279631452241920});  // 1e20 modulo 2^64
+// A negative integer wraps through the unsigned forms and the fraction is
+// then added. Fractions are whole numbers rounded by size, so leading zeros
+// of a long fraction text are lost.
+TEST(CZEL_DecimalNumberTest, Setters) {
+  // clang-format off
+  Check({
+      ROW(D(), "0.00"), ROW(D(2, i64{-5}, u16{25}), "-4.75"), ROW(D(2).Set(u64{1}, 999, 0), "2.00"),
+      ROW(D(0).Set(u64{1} << 63, 0, 1), "-9,223,372,036,854,775,808.0"),
+      ROW(T(2, "  -1.25  "), "-1.25"), ROW(T(2, "-.5"), "-0.50"), ROW(T(2, "12abc"), "12.00"),
+      ROW(T(2, "1,5"), "1.00"), ROW(T(2, "1.5", kComma), "1.00"), ROW(T(2, "1,5", kEither), "1.50"),
+      ROW(T(2, "-1,5", kComma), "-1.50"), ROW(T(2, "1.2,5", kEither), "1.02"),
+      ROW(T(2, "1,234.5", kEither), "1.50"), ROW(T(2, "1.5", D::t_DecimalPointType(7)), "1.00"),
+      ROW(T(2, "1.005"), "1.05"), ROW(T(2, "1.00456"), "1.46"), ROW(T(2, "1.999"), "2.00"),
+      ROW(T(2, "1.123456"), "1.58"), ROW(T(2, "1.-5"), "1.66"), ROW(T(0, "1.5"), "2.0"),
+      ROW(T(0, "99999999999999999999.0"), "-1.0"),  // saturated, then wrapped
+      ROW(D(2, -1.25), "-1.25"), ROW(D(2, 1.999), "1.10"), ROW(D(2, 0.999), "0.10"),
+      ROW(D(0, 1.5), "1.0"), ROW(D(4, 3.14159), "3.1416"), ROW(D(2, std::nan("")), "0.00"),
+      ROW(D(2, -HUGE_VAL), "0.00"), ROW(D(0, 1e20), "7,766,279,631,452,241,920.0"),  // modulo 2^64
+      ROW(D(5, 0.7), "0.04464"), ROW(T(5, "0.4") + T(5, "0.3"), "0.04464"),  // 70000 cut to 16 bits
+  });
+  // clang-format on
   D d(3);
-  d = -2.5;
-  EXPECT_EQ(Probe::Value(d), -2500);
-  EXPECT_EQ(Probe::Places(d), 3);
+  EXPECT_EQ(Text((d = -2.5).ToString('.')), "-2.500");
 }
 
+// Down, only the most significant digit dropped rounds, and a carry to a
+// whole is cut; up, the 16-bit fraction wraps from 5 places on.
 TEST(CZEL_DecimalNumberTest, ChangeNumDigits) {
-  struct Case {
-    u16 from;
-    char const* text;
-    u16 to;
-    i64 expected;
-  } const cases[] = {
-      {4, "1.2349", 2, 123},   {4, "1.2451", 2, 125}, {2, "0.99", 1, 1},     {2, "1.75", 0, 1},
-      {2, "-1.25", 4, -12500}, {2, "-0.5", 0, 0},     {2, "0.99", 5, 33464}, {2, "7.5", 2, 750},
-  };
-  for (Case const& c : cases) {
-    D d = Parse(c.from, c.text);
-    EXPECT_EQ(&d.ChangeNumDigits(c.to), &d);
-    EXPECT_EQ(Probe::Value(d), c.expected) << c.text << " to " << c.to;
-    EXPECT_EQ(Probe::Places(d), c.to);
-  }
+  // clang-format off
+  Check({
+      ROW(Moved(T(4, "1.2349"), 2), "1.23"), ROW(Moved(T(4, "1.2451"), 2), "1.25"),
+      ROW(Moved(T(2, "0.99"), 1), "0.1"), ROW(Moved(T(2, "1.75"), 0), "1.0"),
+      ROW(Moved(T(2, "-1.25"), 4), "-1.2500"), ROW(Moved(T(2, "-0.5"), 0), "0.0"),
+      ROW(Moved(T(2, "0.99"), 5), "0.33464"),
+  });
+  // clang-format on
 }
 
-// Results take the left operand's places; the right operand is rounded on a copy.
+// Results take the left operand's places; the right operand is converted on a copy.
 TEST(CZEL_DecimalNumberTest, Arithmetic) {
-  D const one = Parse(2, "1.00");
-  D const small = Parse(4, "0.2345");
-  D sum = one + small;
-  EXPECT_EQ(Probe::Value(sum), 123);
-  EXPECT_EQ(Probe::Places(sum), 2);
-  EXPECT_EQ(Probe::Value(small + one), 12345);
-  EXPECT_EQ(Probe::Value(small), 2345);
-  EXPECT_EQ(Probe::Value(one - Parse(1, "2.5")), -150);
-  EXPECT_EQ(Probe::Value(sum -= small), 100);
-  EXPECT_EQ(Probe::Value(sum += Parse(2, "0.5")), 150);
-
-  D cent = Parse(2, "0.01");
-  EXPECT_EQ(Probe::Value(cent * 3), 3);
-  EXPECT_EQ(Probe::Value(3 * cent), 3);
-  EXPECT_EQ(Probe::Places(3 * cent), 2);
-
+  D const small = T(4, "0.2345");
+  D cent = T(2, "0.01");
   D const top = D(0).Set(u64{std::numeric_limits<i64>::max()}, 0, 0);
-  EXPECT_EQ(Probe::Value(top + D(0, i64{1})), std::numeric_limits<i64>::min());
-  EXPECT_EQ(Probe::Value(D(0, i64{1} << 62) * 4), 0);
+  // clang-format off
+  Check({
+      ROW(T(2, "1") + small, "1.23"), ROW(small + T(2, "1"), "1.2345"), ROW(small, "0.2345"),
+      ROW(T(2, "1") - T(1, "2.5"), "-1.50"), ROW(T(2, "1.5") -= small, "1.27"),
+      ROW(T(1, "1.5") += small, "1.7"), ROW(cent * 3, "0.03"), ROW(3 * cent, "0.03"),
+      ROW(top + D(0, i64{1}), "-9,223,372,036,854,775,808.0"), ROW(D(0, i64{1} << 62) * 4, "0.0"),
+  });
+  // clang-format on
 }
 
-// Both orders meet at the larger number of places.
+// Both orders meet at the larger number of places and give opposite answers.
 TEST(CZEL_DecimalNumberTest, Comparison) {
   struct Case {
     D a, b;
-    signed char expected;
+    int expected;
   } const cases[] = {
-      {Parse(2, "1.10"), Parse(1, "1.1"), 0}, {Parse(4, "1.0049"), Parse(2, "1.00"), 1},
-      {Parse(2, "-1"), Parse(2, "1"), -1},    {Parse(0, "5"), Parse(3, "4.999"), 1},
-      {Parse(2, "0.5"), Parse(2, "-0.5"), 1},
+      {T(2, "1.10"), T(1, "1.1"), 0}, {T(4, "1.0049"), T(2, "1"), 1}, {T(2, "-1"), T(2, "1"), -1},
+      {T(0, "5"), T(3, "4.999"), 1},  {T(2, "0.5"), T(2, "-0.5"), 1},
   };
   for (Case const& c : cases) {
     EXPECT_EQ(c.a.Compare(c.b), c.expected) << Text(c.a.ToString('.'));
     EXPECT_EQ(D::Compare(c.b, c.a), -c.expected) << Text(c.a.ToString('.'));
-    EXPECT_EQ(c.a == c.b, c.expected == 0);
-    EXPECT_EQ(c.a != c.b, c.expected != 0);
-    EXPECT_EQ(c.a < c.b, c.expected < 0);
-    EXPECT_EQ(c.a <= c.b, c.expected <= 0);
-    EXPECT_EQ(c.a > c.b, c.expected > 0);
-    EXPECT_EQ(c.a >= c.b, c.expected >= 0);
-  }
-  signed char (*comparator)(D const&, D const&) = &D::Compare;
-  EXPECT_EQ(comparator(Parse(2, "1"), Parse(2, "2")), -1);
-}
-
-TEST(CZEL_DecimalNumberTest, TextForms) {
-  struct Case {
-    D number;
-    char point;
-    std::string simple, grouped;
-  } const cases[] = {
-      {D(), '.', "0.00", "0.00"},
-      {D(0, i64{12}), '.', "12.0", "12.0"},
-      {Parse(2, "-0.5"), '.', "-0.50", "-0.50"},
-      {Parse(2, "1234567.5"), '.', "1234567.50", "1,234,567.50"},
-      {Parse(2, "-1000", kComma), ',', "-1000,00", "-1,000,00"},
-      {Parse(4, "0.0005"), '.', "0.0005", "0.0005"},
-      {D(0, i64{2147483648}), '.', "-2147483648.0", "2,147,483,648.0"},
-      {D(2, i64{4294967301}), '.', "5.00", "4,294,967,301.00"},
-      {Parse(5, "0.4") + Parse(5, "0.3"), '.', "0.04464", "0.04464"},  // 70000 cut to 16 bits
-      {D(0).Set(u64{1} << 63, 0, 1), '.', "-0.0", "-9,223,372,036,854,775,808.0"},
-  };
-  for (Case const& c : cases) {
-    EXPECT_EQ(Text(c.number.ToString(c.point)), c.simple);
-    EXPECT_EQ(Text(c.number.ToString(c.point, ',')), c.grouped);
+    int const operators[] = {c.a == c.b, c.a != c.b, c.a<c.b, c.a <= c.b, c.a> c.b, c.a >= c.b};
+    int const expected[] = {c.expected == 0, c.expected != 0,
+                            c.expected<0, c.expected <= 0, c.expected> 0, c.expected >= 0};
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(operators[i], expected[i]) << i;
   }
 }
 
-TEST(CZEL_DecimalNumberTest, Readers) {
-  D const half = Parse(2, "-0.5");
+// The simple form prints the integer part from its low 32 bits, signed.
+TEST(CZEL_DecimalNumberTest, SimpleTextAndReaders) {
+  EXPECT_EQ(Text(D(0, i64{12}).ToString('.')), "12.0");
+  EXPECT_EQ(Text(T(2, "-1234567.5").ToString(',')), "-1234567,50");
+  EXPECT_EQ(Text(D(0, i64{2147483648}).ToString('.')), "-2147483648.0");
+  EXPECT_EQ(Text(D(2, i64{4294967301}).ToString('.')), "5.00");
+  EXPECT_EQ(Text(T(2, "1234567.5").ToString(',', '.')), "1.234.567,50");
+
+  D const half = T(2, "-0.5");
   EXPECT_EQ(half.GetIntegral(), 0u);
   EXPECT_EQ(half.GetDecimal(), 50);
   EXPECT_EQ(half.GetSign(), -1);
   EXPECT_EQ(D().GetSign(), 1);
   EXPECT_EQ(half.ToDouble(), -0.5);
-  EXPECT_EQ(Parse(3, "1234567.125").ToDouble(), 1234567.125);
-  EXPECT_EQ((Parse(5, "0.4") + Parse(5, "0.3")).GetDecimal(), 4464);
+  EXPECT_EQ(T(3, "1234567.125").ToDouble(), 1234567.125);
 
-  D copy(Parse(3, "1.5"));
+  D copy(T(3, "1.5"));
   copy = static_cast<D const&>(copy);
-  EXPECT_EQ(Probe::Value(copy), 1500);
   D other;
-  other = copy;
-  EXPECT_EQ(Probe::Places(other), 3);
+  EXPECT_EQ(Text((other = copy).ToString('.')), "1.500");
 }
 
 }  // namespace
