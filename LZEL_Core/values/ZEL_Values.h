@@ -10,5 +10,6 @@
 #include <LZEL_Core/values/CZEL_BitSet.h>
 #include <LZEL_Core/values/CZEL_Register.h>
 #include <LZEL_Core/values/CZEL_Crc.h>
+#include <LZEL_Core/values/CZEL_DecimalNumber.h>
 
 #endif  // LZEL_CORE_VALUES_ZEL_VALUES_H_
