@@ -72,12 +72,24 @@ void PeerBinary(benchmark::State& state, Op op) {
   state.SetBytesProcessed(state.iterations() * state.range(0) / 8);
 }
 
-void BM_And_Zel(benchmark::State& s) { ZelBinary(s, [](auto& a, auto& b) { return a & b; }); }
-void BM_And_Boost(benchmark::State& s) { PeerBinary(s, [](auto& a, auto& b) { return a & b; }); }
-void BM_Or_Zel(benchmark::State& s) { ZelBinary(s, [](auto& a, auto& b) { return a | b; }); }
-void BM_Or_Boost(benchmark::State& s) { PeerBinary(s, [](auto& a, auto& b) { return a | b; }); }
-void BM_Xor_Zel(benchmark::State& s) { ZelBinary(s, [](auto& a, auto& b) { return a ^ b; }); }
-void BM_Xor_Boost(benchmark::State& s) { PeerBinary(s, [](auto& a, auto& b) { return a ^ b; }); }
+void BM_And_Zel(benchmark::State& s) {
+  ZelBinary(s, [](auto& a, auto& b) { return a & b; });
+}
+void BM_And_Boost(benchmark::State& s) {
+  PeerBinary(s, [](auto& a, auto& b) { return a & b; });
+}
+void BM_Or_Zel(benchmark::State& s) {
+  ZelBinary(s, [](auto& a, auto& b) { return a | b; });
+}
+void BM_Or_Boost(benchmark::State& s) {
+  PeerBinary(s, [](auto& a, auto& b) { return a | b; });
+}
+void BM_Xor_Zel(benchmark::State& s) {
+  ZelBinary(s, [](auto& a, auto& b) { return a ^ b; });
+}
+void BM_Xor_Boost(benchmark::State& s) {
+  PeerBinary(s, [](auto& a, auto& b) { return a ^ b; });
+}
 BENCHMARK(BM_And_Zel)->Arg(1000)->Arg(100000);
 BENCHMARK(BM_And_Boost)->Arg(1000)->Arg(100000);
 BENCHMARK(BM_Or_Zel)->Arg(1000)->Arg(100000);

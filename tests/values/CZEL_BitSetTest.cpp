@@ -210,7 +210,8 @@ TEST(CZEL_BitSetCompare, ComparesWordsAsNumbersWhateverTheLengths) {
       {Make(3, 5), Make(300, 5), 0},           {CZEL_BitSet(), CZEL_BitSet(), 0},
       {CZEL_BitSet(), CZEL_BitSet(200, 0), 0}, {Make(70, 0, 1), Make(64, kAll), 1},
       {Make(64, kAll), Make(70, 0, 1), -1},    {Make(70, 5, 1), Make(70, 6, 1), -1},
-      {Make(70, 2, 1), Make(70, kAll, 0), 1},
+      {Make(70, 2, 1), Make(70, kAll, 0), 1},  {Make(300, 1), Make(300, 2), -1},
+      {Make(300, 0, 1), Make(300, kAll), 1},
   };
   for (Row const& row : rows) {
     EXPECT_EQ(CZEL_BitSet::Compare(row.a, row.b), row.expected);
