@@ -50,34 +50,36 @@ Peer MakePeer(u32 bits, u64 seed) {
 
 u32 Bits(benchmark::State const& state) { return static_cast<u32>(state.range(0)); }
 
-template <typename Op>
-void ZelBinary(benchmark::State& state, Op op) {
-  CZEL_BitSet const a = MakeZel(Bits(state), 1);
-  CZEL_BitSet const b = MakeZel(Bits(state), 2);
+// `op` of two sets made by `make`, a new set each time.
+template <typename Set, typename Op>
+void Binary(benchmark::State& state, Set (*make)(u32, u64), Op op) {
+  Set const a = make(Bits(state), 1);
+  Set const b = make(Bits(state), 2);
   for (auto _ : state) {
-    CZEL_BitSet r = op(a, b);
+    Set r = op(a, b);
     benchmark::DoNotOptimize(r);
   }
   state.SetBytesProcessed(state.iterations() * state.range(0) / 8);
 }
 
-template <typename Op>
-void PeerBinary(benchmark::State& state, Op op) {
-  Peer const a = MakePeer(Bits(state), 1);
-  Peer const b = MakePeer(Bits(state), 2);
-  for (auto _ : state) {
-    Peer r = op(a, b);
-    benchmark::DoNotOptimize(r);
-  }
-  state.SetBytesProcessed(state.iterations() * state.range(0) / 8);
+void BM_And_Zel(benchmark::State& s) {
+  Binary(s, MakeZel, [](auto& a, auto& b) { return a & b; });
 }
-
-void BM_And_Zel(benchmark::State& s) { ZelBinary(s, [](auto& a, auto& b) { return a & b; }); }
-void BM_And_Boost(benchmark::State& s) { PeerBinary(s, [](auto& a, auto& b) { return a & b; }); }
-void BM_Or_Zel(benchmark::State& s) { ZelBinary(s, [](auto& a, auto& b) { return a | b; }); }
-void BM_Or_Boost(benchmark::State& s) { PeerBinary(s, [](auto& a, auto& b) { return a | b; }); }
-void BM_Xor_Zel(benchmark::State& s) { ZelBinary(s, [](auto& a, auto& b) { return a ^ b; }); }
-void BM_Xor_Boost(benchmark::State& s) { PeerBinary(s, [](auto& a, auto& b) { return a ^ b; }); }
+void BM_And_Boost(benchmark::State& s) {
+  Binary(s, MakePeer, [](auto& a, auto& b) { return a & b; });
+}
+void BM_Or_Zel(benchmark::State& s) {
+  Binary(s, MakeZel, [](auto& a, auto& b) { return a | b; });
+}
+void BM_Or_Boost(benchmark::State& s) {
+  Binary(s, MakePeer, [](auto& a, auto& b) { return a | b; });
+}
+void BM_Xor_Zel(benchmark::State& s) {
+  Binary(s, MakeZel, [](auto& a, auto& b) { return a ^ b; });
+}
+void BM_Xor_Boost(benchmark::State& s) {
+  Binary(s, MakePeer, [](auto& a, auto& b) { return a ^ b; });
+}
 BENCHMARK(BM_And_Zel)->Arg(1000)->Arg(100000);
 BENCHMARK(BM_And_Boost)->Arg(1000)->Arg(100000);
 BENCHMARK(BM_Or_Zel)->Arg(1000)->Arg(100000);
@@ -101,14 +103,17 @@ void BM_Compare_Boost(benchmark::State& state) {
 BENCHMARK(BM_Compare_Zel)->Arg(1000)->Arg(100000);
 BENCHMARK(BM_Compare_Boost)->Arg(1000)->Arg(100000);
 
-void BM_ToString16_Zel(benchmark::State& state) {
+// The text in `base` with groups of `group` digits (0: none).
+void ZelText(benchmark::State& state, u32 base, u32 group) {
   CZEL_BitSet const a = MakeZel(Bits(state), 4);
   for (auto _ : state) {
-    CZEL_String text = a.ToString(16, 4, ' ');
+    CZEL_String text = a.ToString(base, group, ' ');
     benchmark::DoNotOptimize(text.GetStringC());
   }
   state.SetComplexityN(state.range(0));
 }
+void BM_ToString16_Zel(benchmark::State& state) { ZelText(state, 16, 4); }
+void BM_ToString2_Zel(benchmark::State& state) { ZelText(state, 2, 0); }
 
 // The same digits and groups from the peer's blocks, most significant first.
 void BM_ToString16_Boost(benchmark::State& state) {
@@ -128,17 +133,8 @@ void BM_ToString16_Boost(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
-void BM_ToString2_Zel(benchmark::State& state) {
-  CZEL_BitSet const a = MakeZel(Bits(state), 5);
-  for (auto _ : state) {
-    CZEL_String text = a.ToString(2, 0, ' ');
-    benchmark::DoNotOptimize(text.GetStringC());
-  }
-  state.SetComplexityN(state.range(0));
-}
-
 void BM_ToString2_Boost(benchmark::State& state) {
-  Peer const a = MakePeer(Bits(state), 5);
+  Peer const a = MakePeer(Bits(state), 4);
   for (auto _ : state) {
     std::string text;
     boost::to_string(a, text);

@@ -377,7 +377,14 @@ signed char CZEL_BitSet::CompareWords(u64 const* a, u32 aWords, u64 const* b, u3
   for (u32 i = bWords; i > common; --i) {
     if (b[i - 1] != 0) return -1;
   }
-  for (u32 i = common; i > 0; --i) {
+  // Equal runs are skipped four words at a time; the first difference is
+  // then found word by word.
+  u32 i = common;
+  while (i >= 4 && ((a[i - 1] ^ b[i - 1]) | (a[i - 2] ^ b[i - 2]) | (a[i - 3] ^ b[i - 3]) |
+                    (a[i - 4] ^ b[i - 4])) == 0) {
+    i -= 4;
+  }
+  for (; i > 0; --i) {
     if (a[i - 1] != b[i - 1]) return a[i - 1] > b[i - 1] ? 1 : -1;
   }
   return 0;
@@ -439,14 +446,20 @@ CZEL_String CZEL_BitSet::ToString(u32 base, u32 group, char separator) const {
   char* out = text.GetStringC() + text.GetLength();
   u64 const digitMask = base - 1;
   u64 const digitsPerWord = kWordBits / digitBits;
-  u32 inGroup = 0;
+  u64 inGroup = 0;
   for (u64 done = 0; done < digits;) {
     u64 word = m_Words[done / digitsPerWord];
-    u64 const last = std::min(digits, done + digitsPerWord);
-    for (; done < last; ++done) {
-      *--out = "0123456789ABCDEF"[word & digitMask];
-      word >>= digitBits;
-      if (++inGroup == group && done + 1 < digits) {
+    u64 const wordEnd = std::min(digits, done + digitsPerWord);
+    while (done < wordEnd) {
+      // A run of digits up to the end of the word or of the group.
+      u64 const run = std::min(wordEnd - done, group == 0 ? digits : group - inGroup);
+      for (u64 k = 0; k < run; ++k) {
+        *--out = "0123456789ABCDEF"[word & digitMask];
+        word >>= digitBits;
+      }
+      done += run;
+      inGroup += run;
+      if (inGroup == group && done < digits) {
         *--out = separator;
         inGroup = 0;
       }
