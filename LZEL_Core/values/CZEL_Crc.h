@@ -44,8 +44,8 @@
 //
 // MIL-STD-1760
 //
-// Configure it with `Create(Crc16_MilStd1760)` on an object that has no
-// polynomial yet (a default-constructed one, say). Only the two 16-bit
+// Configure it with `CZEL_Crc(Crc16_MilStd1760)`, or with
+// `Create(Crc16_MilStd1760)` on an object that has no polynomial yet. Only the two 16-bit
 // overloads on raw data know this check; the vector overloads and
 // `ComputeCheckValue` throw ZEL_ERR_FAILED for it. The block is read as
 // 16-bit words, low byte first; an odd last byte is ignored. The last word
