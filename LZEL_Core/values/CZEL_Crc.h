@@ -44,10 +44,10 @@
 //
 // MIL-STD-1760
 //
-// Configure it with `Create(Crc16_MilStd1760)` on an object that has no
-// polynomial yet (a default-constructed one, say). Only the two 16-bit
-// overloads on raw data know this check; the vector overloads and
-// `ComputeCheckValue` throw ZEL_ERR_FAILED for it. The block is read as
+// Configure it with `CZEL_Crc(Crc16_MilStd1760)`, or with
+// `Create(Crc16_MilStd1760)` on an object that has no polynomial yet. Only
+// the two 16-bit overloads on raw data know this check; the vector overloads
+// and `ComputeCheckValue` throw ZEL_ERR_FAILED for it. The block is read as
 // 16-bit words, low byte first; an odd last byte is ignored. The last word
 // is rotated left by one place, the word before it by two, and so on
 // (counts modulo 16), and all are XORed together; `continued` non-zero XORs

@@ -18,7 +18,8 @@
 // Both forms give exactly the register of the byte-table definition. Blocks
 // are taken eight bytes at a time through eight tables (slicing), and where
 // the processor has carry-less multiplication, 128 bytes at a time by
-// folding, with constants derived from the polynomial at configuration time.
+// folding, or 256 bytes at a time where it has it on 512-bit registers, with
+// constants derived from the polynomial at configuration time.
 
 #ifndef LZEL_CORE_VALUES_ZEL_CRC_ENGINE_H_
 #define LZEL_CORE_VALUES_ZEL_CRC_ENGINE_H_
@@ -32,15 +33,17 @@ namespace crc_engine {
 struct SCrcEngine {
   // slice[k][b]: the register contribution of byte b followed by k bytes.
   u64 slice[8][256];
-  // Folding constants (x^n mod G) over 128 and over 1024 bits, as the low
-  // and high lanes of one 128-bit operand.
+  // Folding constants (x^n mod G) that move a 128-bit lane forward by 128,
+  // 512, 1024 or 2048 bits, as the low and high halves of one operand.
   u64 fold128[2];
+  u64 fold512[2];
   u64 fold1024[2];
+  u64 fold2048[2];
   // 64 - width: where the register sits in the normal form.
   u32 shift;
   // 1 for the reflected form.
   u8 reflected;
-  // 1 if the carry-less multiplication path is used.
+  // The folding path used: 0 none, 1 on 128 bits, 2 on 512 bits.
   u8 folding;
 };
 

@@ -62,45 +62,29 @@ Params ParamsOf(C const& crc) {
           crc.GetFinalXor()};
 }
 
-// `Compute` on raw bytes into a result of `width` bits, from `crc`.
-template <typename T>
-u64 RawAs(C const& engine, u8* data, u64 size, u64 crc, u8 continued) {
-  T value = T(crc);
-  engine.Compute(data, size, &value, continued);
-  return value;
+// Calls `f` with a 0 of the unsigned type of `width` bits.
+template <typename F>
+u64 AtWidth(u32 width, F f) {
+  if (width == 8) return f(u8{});
+  if (width == 16) return f(u16{});
+  if (width == 32) return f(u32{});
+  return f(u64{});
 }
 
+// `Compute` on raw bytes into a result of `width` bits, starting from `crc`.
 u64 Raw(C const& engine, u32 width, u8* data, u64 size, u64 crc, u8 continued) {
-  switch (width) {
-    case 8:
-      return RawAs<u8>(engine, data, size, crc, continued);
-    case 16:
-      return RawAs<u16>(engine, data, size, crc, continued);
-    case 32:
-      return RawAs<u32>(engine, data, size, crc, continued);
-    default:
-      return RawAs<u64>(engine, data, size, crc, continued);
-  }
-}
-
-template <typename T>
-u64 CheckAs(C const& engine) {
-  T value = 0;
-  engine.ComputeCheckValue(&value);
-  return value;
+  return AtWidth(width, [&](auto zero) {
+    auto value = static_cast<decltype(zero)>(crc);
+    engine.Compute(data, size, &value, continued);
+    return u64{value};
+  });
 }
 
 u64 Check(C const& engine, u32 width) {
-  switch (width) {
-    case 8:
-      return CheckAs<u8>(engine);
-    case 16:
-      return CheckAs<u16>(engine);
-    case 32:
-      return CheckAs<u32>(engine);
-    default:
-      return CheckAs<u64>(engine);
-  }
+  return AtWidth(width, [&](auto value) {
+    engine.ComputeCheckValue(&value);
+    return u64{value};
+  });
 }
 
 C::t_CrcType TypeOf(u32 width) {
@@ -114,129 +98,89 @@ Bytes Text(char const* text) { return Bytes(text, text + std::strlen(text)); }
 
 u8 const kDigits[] = {'1', '2', '3', '4', '5', '6', '7', '8', '9'};
 
-struct Member {
-  C::t_StdCrc type;
+// The catalogue's parameter sets: width, check value and the members.
+struct Set {
   u32 width;
   u64 check;
+  std::vector<C::t_StdCrc> members;
 };
 
-// Every polynomial member with its width and check value.
-Member const kMembers[] = {
-    {C::Crc8, 8, 0xF4},
-    {C::Crc8_Aes, 8, 0x97},
-    {C::Crc8_Ebu, 8, 0x97},
-    {C::Crc8_Autosar, 8, 0xDF},
-    {C::Crc8_Bluetooth, 8, 0x26},
-    {C::Crc8_Cdma2000, 8, 0xDA},
-    {C::Crc8_Darc, 8, 0x15},
-    {C::Crc8_DowCrc, 8, 0xA1},
-    {C::Crc8_Maxim, 8, 0xA1},
-    {C::Crc8_DvbS2, 8, 0xBC},
-    {C::Crc8_GsmA, 8, 0x37},
-    {C::Crc8_GsmB, 8, 0x94},
-    {C::Crc8_ICode, 8, 0x7E},
-    {C::Crc8_Itu, 8, 0xA1},
-    {C::Crc8_Lte, 8, 0xEA},
-    {C::Crc8_OpenSafety, 8, 0x3E},
-    {C::Crc8_Rohc, 8, 0xD0},
-    {C::Crc8_SaeJ1850, 8, 0x4B},
-    {C::Crc8_Wcdma, 8, 0x25},
-    {C::Crc16, 16, 0xBB3D},
-    {C::Crc16_Arc, 16, 0xBB3D},
-    {C::Crc16_Ibm, 16, 0xBB3D},
-    {C::Crc16_Lha, 16, 0xBB3D},
-    {C::Crc16_A, 16, 0xBF05},
-    {C::Crc16_Iso14443A, 16, 0xBF05},
-    {C::Crc16_Acorn, 16, 0x31C3},
-    {C::Crc16_Lte, 16, 0x31C3},
-    {C::Crc16_Xmodem, 16, 0x31C3},
-    {C::Crc16_Zmodem, 16, 0x31C3},
-    {C::Crc16_AugCcitt, 16, 0xE5CC},
-    {C::Crc16_SpiFujitsu, 16, 0xE5CC},
-    {C::Crc16_Buypass, 16, 0xFEE8},
-    {C::Crc16_Umts, 16, 0xFEE8},
-    {C::Crc16_Verifone, 16, 0xFEE8},
-    {C::Crc16_Ccitt, 16, 0x2189},
-    {C::Crc16_CcittTrue, 16, 0x2189},
-    {C::Crc16_CcittReflected, 16, 0x2189},
-    {C::Crc16_Kermit, 16, 0x2189},
-    {C::Crc16_CcittFalse, 16, 0x29B1},
-    {C::Crc16_Ibm3740, 16, 0x29B1},
-    {C::Crc16_Cdma2000, 16, 0x4C06},
-    {C::Crc16_Cms, 16, 0xAEE7},
-    {C::Crc16_B, 16, 0x906E},
-    {C::Crc16_IbmSdlc, 16, 0x906E},
-    {C::Crc16_IsoHdlc, 16, 0x906E},
-    {C::Crc16_X25, 16, 0x906E},
-    {C::Crc16_Darc, 16, 0xD64E},
-    {C::Crc16_Epc, 16, 0xD64E},
-    {C::Crc16_Genibus, 16, 0xD64E},
-    {C::Crc16_ICode, 16, 0xD64E},
-    {C::Crc16_Dds110, 16, 0x9ECF},
-    {C::Crc16_DectR, 16, 0x007E},
-    {C::Crc16_R, 16, 0x007E},
-    {C::Crc16_DectX, 16, 0x007F},
-    {C::Crc16_X, 16, 0x007F},
-    {C::Crc16_Dnp, 16, 0xEA82},
-    {C::Crc16_En13757, 16, 0xC2B7},
-    {C::Crc16_Gsm, 16, 0xCE3C},
-    {C::Crc16_Iec611582, 16, 0xA819},
-    {C::Crc16_Profibus, 16, 0xA819},
-    {C::Crc16_Lj1200, 16, 0xBDF4},
-    {C::Crc16_Maxim, 16, 0x44C2},
-    {C::Crc16_Mcrf4xx, 16, 0x6F91},
-    {C::Crc16_Modbus, 16, 0x4B37},
-    {C::Crc16_OpenSafetyA, 16, 0x5D38},
-    {C::Crc16_OpenSafetyB, 16, 0x20FE},
-    {C::Crc16_Riello, 16, 0x63D0},
-    {C::Crc16_T10Dif, 16, 0xD0DB},
-    {C::Crc16_Teledisk, 16, 0x0FB3},
-    {C::Crc16_Tms37157, 16, 0x26B1},
-    {C::Crc16_Usb, 16, 0xB4C8},
-    {C::Crc32, 32, 0xCBF43926},
-    {C::Crc32_IsoHdlc, 32, 0xCBF43926},
-    {C::Crc32_Pkzip, 32, 0xCBF43926},
-    {C::Crc32_Autosar, 32, 0x1697D06A},
-    {C::Crc32_Aal5, 32, 0xFC891918},
-    {C::Crc32_B, 32, 0xFC891918},
-    {C::Crc32_Bzip2, 32, 0xFC891918},
-    {C::Crc32_DectB, 32, 0xFC891918},
-    {C::Crc32_C, 32, 0xE3069283},
-    {C::Crc32_Castagnoli, 32, 0xE3069283},
-    {C::Crc32_Interlaken, 32, 0xE3069283},
-    {C::Crc32_Iscsi, 32, 0xE3069283},
-    {C::Crc32_D, 32, 0x87315576},
-    {C::Crc32_Mpeg2, 32, 0x0376E6E7},
-    {C::Crc32_Posix, 32, 0x765E7680},
-    {C::Crc32_Cksum, 32, 0x765E7680},
-    {C::Crc32_Posix2, 32, 0x765E7680},
-    {C::Crc32_Q, 32, 0x3010BF7F},
-    {C::Crc32_Jamcrc, 32, 0x340BC6D9},
-    {C::Crc32_Xfer, 32, 0xBD0BE338},
-    {C::Crc64, 64, 0x6C40DF5F0B497347},
-    {C::Crc64_GoIso, 64, 0xB90956C775A41001},
-    {C::Crc64_We, 64, 0x62EC59E3F1A4F00A},
-    {C::Crc64_Xz, 64, 0x995DC9BBDF1939FA},
-    {C::Crc64_GoEcma, 64, 0x995DC9BBDF1939FA},
+Set const kSets[] = {
+    {8, 0xF4, {C::Crc8}},
+    {8, 0x97, {C::Crc8_Aes, C::Crc8_Ebu}},
+    {8, 0xDF, {C::Crc8_Autosar}},
+    {8, 0x26, {C::Crc8_Bluetooth}},
+    {8, 0xDA, {C::Crc8_Cdma2000}},
+    {8, 0x15, {C::Crc8_Darc}},
+    {8, 0xA1, {C::Crc8_DowCrc, C::Crc8_Maxim}},
+    {8, 0xBC, {C::Crc8_DvbS2}},
+    {8, 0x37, {C::Crc8_GsmA}},
+    {8, 0x94, {C::Crc8_GsmB}},
+    {8, 0x7E, {C::Crc8_ICode}},
+    {8, 0xA1, {C::Crc8_Itu}},
+    {8, 0xEA, {C::Crc8_Lte}},
+    {8, 0x3E, {C::Crc8_OpenSafety}},
+    {8, 0xD0, {C::Crc8_Rohc}},
+    {8, 0x4B, {C::Crc8_SaeJ1850}},
+    {8, 0x25, {C::Crc8_Wcdma}},
+    {16, 0xBB3D, {C::Crc16, C::Crc16_Arc, C::Crc16_Ibm, C::Crc16_Lha}},
+    {16, 0xBF05, {C::Crc16_A, C::Crc16_Iso14443A}},
+    {16, 0x31C3, {C::Crc16_Acorn, C::Crc16_Lte, C::Crc16_Xmodem, C::Crc16_Zmodem}},
+    {16, 0xE5CC, {C::Crc16_AugCcitt, C::Crc16_SpiFujitsu}},
+    {16, 0xFEE8, {C::Crc16_Buypass, C::Crc16_Umts, C::Crc16_Verifone}},
+    {16, 0x2189, {C::Crc16_Ccitt, C::Crc16_CcittTrue, C::Crc16_CcittReflected, C::Crc16_Kermit}},
+    {16, 0x29B1, {C::Crc16_CcittFalse, C::Crc16_Ibm3740}},
+    {16, 0x4C06, {C::Crc16_Cdma2000}},
+    {16, 0xAEE7, {C::Crc16_Cms}},
+    {16, 0x906E, {C::Crc16_B, C::Crc16_IbmSdlc, C::Crc16_IsoHdlc, C::Crc16_X25}},
+    {16, 0xD64E, {C::Crc16_Darc, C::Crc16_Epc, C::Crc16_Genibus, C::Crc16_ICode}},
+    {16, 0x9ECF, {C::Crc16_Dds110}},
+    {16, 0x007E, {C::Crc16_DectR, C::Crc16_R}},
+    {16, 0x007F, {C::Crc16_DectX, C::Crc16_X}},
+    {16, 0xEA82, {C::Crc16_Dnp}},
+    {16, 0xC2B7, {C::Crc16_En13757}},
+    {16, 0xCE3C, {C::Crc16_Gsm}},
+    {16, 0xA819, {C::Crc16_Iec611582, C::Crc16_Profibus}},
+    {16, 0xBDF4, {C::Crc16_Lj1200}},
+    {16, 0x44C2, {C::Crc16_Maxim}},
+    {16, 0x6F91, {C::Crc16_Mcrf4xx}},
+    {16, 0x4B37, {C::Crc16_Modbus}},
+    {16, 0x5D38, {C::Crc16_OpenSafetyA}},
+    {16, 0x20FE, {C::Crc16_OpenSafetyB}},
+    {16, 0x63D0, {C::Crc16_Riello}},
+    {16, 0xD0DB, {C::Crc16_T10Dif}},
+    {16, 0x0FB3, {C::Crc16_Teledisk}},
+    {16, 0x26B1, {C::Crc16_Tms37157}},
+    {16, 0xB4C8, {C::Crc16_Usb}},
+    {32, 0xCBF43926, {C::Crc32, C::Crc32_IsoHdlc, C::Crc32_Pkzip}},
+    {32, 0x1697D06A, {C::Crc32_Autosar}},
+    {32, 0xFC891918, {C::Crc32_Aal5, C::Crc32_B, C::Crc32_Bzip2, C::Crc32_DectB}},
+    {32, 0xE3069283, {C::Crc32_C, C::Crc32_Castagnoli, C::Crc32_Interlaken, C::Crc32_Iscsi}},
+    {32, 0x87315576, {C::Crc32_D}},
+    {32, 0x0376E6E7, {C::Crc32_Mpeg2}},
+    {32, 0x765E7680, {C::Crc32_Posix, C::Crc32_Cksum, C::Crc32_Posix2}},
+    {32, 0x3010BF7F, {C::Crc32_Q}},
+    {32, 0x340BC6D9, {C::Crc32_Jamcrc}},
+    {32, 0xBD0BE338, {C::Crc32_Xfer}},
+    {64, 0x6C40DF5F0B497347, {C::Crc64}},
+    {64, 0xB90956C775A41001, {C::Crc64_GoIso}},
+    {64, 0x62EC59E3F1A4F00A, {C::Crc64_We}},
+    {64, 0x995DC9BBDF1939FA, {C::Crc64_Xz, C::Crc64_GoEcma}},
 };
 
 TEST(CrcCatalogue, EveryMemberGivesItsCheckValue) {
-  ASSERT_EQ(sizeof kMembers / sizeof kMembers[0], 96u);
-  for (Member const& m : kMembers) {
-    C const crc(m.type);
-    EXPECT_EQ(crc.GetSize(), m.width) << m.type;
-    EXPECT_EQ(Check(crc, m.width), m.check) << m.type;
-    // The getters describe the CRC that gives the check value.
-    EXPECT_EQ(Reference(ParamsOf(crc), crc.GetSeed(), kDigits, 9), m.check) << m.type;
+  size_t members = 0;
+  for (Set const& set : kSets) {
+    for (C::t_StdCrc type : set.members) {
+      C const crc(type);
+      EXPECT_EQ(crc.GetSize(), set.width) << type;
+      EXPECT_EQ(Check(crc, set.width), set.check) << type;
+      // The getters describe the CRC that gives the check value.
+      EXPECT_EQ(Reference(ParamsOf(crc), crc.GetSeed(), kDigits, 9), set.check) << type;
+      ++members;
+    }
   }
-}
-
-TEST(CrcCatalogue, NamesOfOneCrcKeepTheirValues) {
-  EXPECT_NE(u32(C::Crc16_Xmodem), u32(C::Crc16_Zmodem));
-  Bytes data = Text("any block of bytes");
-  C const x(C::Crc16_Xmodem);
-  C const z(C::Crc16_Zmodem);
-  EXPECT_EQ(Raw(x, 16, data.data(), data.size(), 0, 0), Raw(z, 16, data.data(), data.size(), 0, 0));
+  EXPECT_EQ(members, 96u);
 }
 
 TEST(CrcCatalogue, EmptyBlockGivesReflectedSeedXorFinal) {
@@ -258,15 +202,17 @@ TEST(CrcCatalogue, EmptyBlockGivesReflectedSeedXorFinal) {
 // path (where the processor has it) all give the byte-table result.
 TEST(CrcPaths, RandomBlocksMatchTheBitByBitDefinition) {
   std::mt19937_64 random(20240607);
-  Bytes buffer(1000 + 16);
+  Bytes buffer(70000 + 16);
+  for (u8& b : buffer) b = u8(random());
   C reused;
   for (int round = 0; round < 1500; ++round) {
     u32 const width = 8u << (random() % 4);
     u64 const mask = Mask(width);
     Params const p{width,   random() & mask, random(), random() % 2 == 0, random() % 2 == 0,
                    random()};
-    for (u8& b : buffer) b = u8(random());
-    u64 const size = random() % 1001;
+    for (u32 i = 0; i < 1016; ++i) buffer[i] = u8(random());
+    // Now and then a long block, for many rounds of the wide loops.
+    u64 const size = random() % (round % 100 == 0 ? 70001 : 1001);
     u8* const data = buffer.data() + random() % 16;
     u64 const split = size == 0 ? 0 : random() % (size + 1);
 
@@ -399,7 +345,8 @@ TEST(CrcCopies, CopiesAreIndependentAndReconfigurable) {
   EXPECT_EQ(Check(copy, 32), 0xE3069283u);
   EXPECT_EQ(Check(assigned, 32), 0xE3069283u);
 
-  assigned = assigned;  // NOLINT: self-assignment is the case under test
+  C& alias = assigned;  // through a reference, as self-assignment happens in practice
+  assigned = alias;
   EXPECT_EQ(Check(assigned, 32), 0xE3069283u);
 
   // The check word on an object with a polynomial keeps the polynomial.
