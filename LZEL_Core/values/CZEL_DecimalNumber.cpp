@@ -253,23 +253,24 @@ double CZEL_DecimalNumber::ToDouble() const {
 }
 
 // The fraction takes the places as its least width, padded with zeros; the
-// integer part goes through "%d" as its low 32 bits.
+// integer part goes through "%d" as its low 32 bits. One pass of the
+// formatter builds the whole text.
 CZEL_String CZEL_DecimalNumber::ToString(char decimalPoint) const {
-  CZEL_String integer;
-  integer.Format("%d", static_cast<int>(static_cast<ZEL::u32>(GetIntegral())));
-  return Join(integer, decimalPoint);
+  CZEL_String text;
+  return text.Format("%s%d%c%0*d", SignText(), static_cast<int>(static_cast<u32>(GetIntegral())),
+                     decimalPoint, static_cast<int>(m_NumDigits), static_cast<int>(GetDecimal()));
 }
 
+// The grouped integer text may hold bytes of 0 (a separator of 0), so it is
+// joined as a string rather than passed through the formatter.
 CZEL_String CZEL_DecimalNumber::ToString(char decimalPoint, char thousandsSeparator) const {
-  return Join(CZEL_String::FromNumber(GetIntegral(), 10, 3, thousandsSeparator), decimalPoint);
+  CZEL_String fraction;
+  fraction.Format("%c%0*d", decimalPoint, static_cast<int>(m_NumDigits),
+                  static_cast<int>(GetDecimal()));
+  return SignText() + CZEL_String::FromNumber(GetIntegral(), 10, 3, thousandsSeparator) + fraction;
 }
 
-CZEL_String CZEL_DecimalNumber::Join(CZEL_String const& integer, char decimalPoint) const {
-  CZEL_String fraction;
-  fraction.Format("%0*d", static_cast<int>(m_NumDigits), static_cast<int>(GetDecimal()));
-  CZEL_String text = m_Value < 0 ? CZEL_String('-') + integer : integer;
-  return (text += decimalPoint) += fraction;
-}
+char const* CZEL_DecimalNumber::SignText() const { return m_Value < 0 ? "-" : ""; }
 
 // -----------------------------------------------------------------------------
 // Helpers

@@ -240,9 +240,8 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
   // `other`'s value at this number's places.
   ZEL::i64 ValueAtOwnPlaces(CZEL_DecimalNumber const& other) const;
 
-  // The text of both `ToString` forms from their integer text: the sign,
-  // `integer`, `decimalPoint` and the zero-padded fraction.
-  CZEL_String Join(CZEL_String const& integer, char decimalPoint) const;
+  // The sign's text in both `ToString` forms: "-" if negative, else "".
+  char const* SignText() const;
 };
 
 // `number` times `factor`, as `number * factor`.
