@@ -26,12 +26,6 @@ u64 TruncateToU64(double value) {
   return static_cast<u64>(value);
 }
 
-// The number text of `text` between `from` and `to` (exclusive), read in
-// base 10 as CZEL_String::ToUnsigned reads it.
-u64 ReadUnsigned(CZEL_String const& text, u32 from, u32 to) {
-  return text.Mid(from, to - from).ToUnsigned(10);
-}
-
 }  // namespace
 
 // -----------------------------------------------------------------------------
@@ -125,7 +119,8 @@ CZEL_DecimalNumber& CZEL_DecimalNumber::Set(char const* text, t_DecimalPointType
   if (fractionText.GetLength() < m_NumDigits) fractionText.SetLength(m_NumDigits, '0');
   auto const fraction = static_cast<u16>(fractionText.ToUnsigned(10));
   u8 const negative = s.GetChar(0) == '-' ? 1 : 0;
-  return Set(ReadUnsigned(s, negative, point), fraction, negative);
+  u64 const integral = s.Mid(negative, point - negative).ToUnsigned(10);
+  return Set(integral, fraction, negative);
 }
 
 // Only the most significant digit dropped rounds. The fraction stays in 16
