@@ -147,7 +147,7 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
   //
   // Nothing checks for overflow: the value wraps modulo 2 to the 64.
 
-  // The sum or difference at this number's places. A `other` with other
+  // The sum or difference at this number's places. An `other` with other
   // places is first taken to these places by `ChangeNumDigits` on a copy:
   // 1.00 at two places plus 0.2345 at four is 1.23. `other` stays as it is.
   CZEL_DecimalNumber operator+(CZEL_DecimalNumber const& other) const;
