@@ -26,12 +26,6 @@ u64 TruncateToU64(double value) {
   return static_cast<u64>(value);
 }
 
-// The number text of `text` between `from` and `to` (exclusive), read in
-// base 10 as CZEL_String::ToUnsigned reads it.
-u64 ReadUnsigned(CZEL_String const& text, u32 from, u32 to) {
-  return text.Mid(from, to - from).ToUnsigned(10);
-}
-
 }  // namespace
 
 // -----------------------------------------------------------------------------
@@ -125,7 +119,8 @@ CZEL_DecimalNumber& CZEL_DecimalNumber::Set(char const* text, t_DecimalPointType
   if (fractionText.GetLength() < m_NumDigits) fractionText.SetLength(m_NumDigits, '0');
   auto const fraction = static_cast<u16>(fractionText.ToUnsigned(10));
   u8 const negative = s.GetChar(0) == '-' ? 1 : 0;
-  return Set(ReadUnsigned(s, negative, point), fraction, negative);
+  u64 const integral = s.Mid(negative, point - negative).ToUnsigned(10);
+  return Set(integral, fraction, negative);
 }
 
 // Only the most significant digit dropped rounds. The fraction stays in 16
@@ -253,23 +248,24 @@ double CZEL_DecimalNumber::ToDouble() const {
 }
 
 // The fraction takes the places as its least width, padded with zeros; the
-// integer part goes through "%d" as its low 32 bits.
+// integer part goes through "%d" as its low 32 bits. One pass of the
+// formatter builds the whole text.
 CZEL_String CZEL_DecimalNumber::ToString(char decimalPoint) const {
-  CZEL_String integer;
-  integer.Format("%d", static_cast<int>(static_cast<ZEL::u32>(GetIntegral())));
-  return Join(integer, decimalPoint);
+  CZEL_String text;
+  return text.Format("%s%d%c%0*d", SignText(), static_cast<int>(static_cast<u32>(GetIntegral())),
+                     decimalPoint, static_cast<int>(m_NumDigits), static_cast<int>(GetDecimal()));
 }
 
+// The grouped integer text may hold bytes of 0 (a separator of 0), so it is
+// joined as a string rather than passed through the formatter.
 CZEL_String CZEL_DecimalNumber::ToString(char decimalPoint, char thousandsSeparator) const {
-  return Join(CZEL_String::FromNumber(GetIntegral(), 10, 3, thousandsSeparator), decimalPoint);
+  CZEL_String fraction;
+  fraction.Format("%c%0*d", decimalPoint, static_cast<int>(m_NumDigits),
+                  static_cast<int>(GetDecimal()));
+  return SignText() + CZEL_String::FromNumber(GetIntegral(), 10, 3, thousandsSeparator) + fraction;
 }
 
-CZEL_String CZEL_DecimalNumber::Join(CZEL_String const& integer, char decimalPoint) const {
-  CZEL_String fraction;
-  fraction.Format("%0*d", static_cast<int>(m_NumDigits), static_cast<int>(GetDecimal()));
-  CZEL_String text = m_Value < 0 ? CZEL_String('-') + integer : integer;
-  return (text += decimalPoint) += fraction;
-}
+char const* CZEL_DecimalNumber::SignText() const { return m_Value < 0 ? "-" : ""; }
 
 // -----------------------------------------------------------------------------
 // Helpers

@@ -147,7 +147,7 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
   //
   // Nothing checks for overflow: the value wraps modulo 2 to the 64.
 
-  // The sum or difference at this number's places. A `other` with other
+  // The sum or difference at this number's places. An `other` with other
   // places is first taken to these places by `ChangeNumDigits` on a copy:
   // 1.00 at two places plus 0.2345 at four is 1.23. `other` stays as it is.
   CZEL_DecimalNumber operator+(CZEL_DecimalNumber const& other) const;
@@ -240,9 +240,8 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
   // `other`'s value at this number's places.
   ZEL::i64 ValueAtOwnPlaces(CZEL_DecimalNumber const& other) const;
 
-  // The text of both `ToString` forms from their integer text: the sign,
-  // `integer`, `decimalPoint` and the zero-padded fraction.
-  CZEL_String Join(CZEL_String const& integer, char decimalPoint) const;
+  // The sign's text in both `ToString` forms: "-" if negative, else "".
+  char const* SignText() const;
 };
 
 // `number` times `factor`, as `number * factor`.

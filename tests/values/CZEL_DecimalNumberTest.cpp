@@ -116,6 +116,10 @@ TEST(CZEL_DecimalNumberTest, SimpleTextAndReaders) {
   EXPECT_EQ(Text(D(0, i64{2147483648}).ToString('.')), "-2147483648.0");
   EXPECT_EQ(Text(D(2, i64{4294967301}).ToString('.')), "5.00");
   EXPECT_EQ(Text(T(2, "1234567.5").ToString(',', '.')), "1.234.567,50");
+  // A point or separator of 0 stays in the text ('_' stands for it here).
+  auto const zeros = [](std::string s) { return s.replace(s.find('_'), 1, 1, '\0'); };
+  EXPECT_EQ(Text(T(2, "1234.5").ToString('\0')), zeros("1234_50"));
+  EXPECT_EQ(Text(T(2, "1234.5").ToString('\0', '\0')), zeros(zeros("1_234_50")));
 
   D const half = T(2, "-0.5");
   EXPECT_EQ(half.GetIntegral(), 0u);
