@@ -31,6 +31,20 @@ bool FindTags(char const* text, u32 length, char separator, u32 count, u32* star
   return tags == count;
 }
 
+// The number that `strtoull(text, nullptr, 10)` reads. A run of decimal
+// digits at the very start, too short to overflow, is read here directly;
+// anything else (blanks, a sign, no digit, a long run) goes to `strtoull`.
+ZEL::u64 ReadNumber(char const* text) {
+  constexpr int kSafeDigits = 19;
+  ZEL::u64 value = 0;
+  int count = 0;
+  for (; count < kSafeDigits && text[count] >= '0' && text[count] <= '9'; ++count) {
+    value = value * 10 + static_cast<ZEL::u64>(text[count] - '0');
+  }
+  bool const done = count > 0 && !(text[count] >= '0' && text[count] <= '9');
+  return done ? value : std::strtoull(text, nullptr, 10);
+}
+
 // Writes `value` in decimal, with a leading minus when negative, as "%d"
 // does; returns the end of the text written.
 char* AppendDecimal(char* out, int value) {
@@ -121,24 +135,28 @@ void CZEL_IpAddress::DataCopy(CZEL_IpAddress const& other) {
 
 // The tags are read in place rather than cut out as strings: a tag ends at
 // a separator or at the end of the text, neither of which can continue a
-// number, so `strtoull` from the tag's start reads exactly what
+// number, so reading from the tag's start gives exactly what
 // `CZEL_String::ToUnsigned(10)` reads from the tag on its own, up to a 0
 // byte inside it included. A number too large reads as the largest u64,
-// and every number is then cut to the kind's width.
+// and every number is then cut to the kind's width. The address becomes
+// invalid before anything else when the tags don't count out; otherwise a
+// digit list of the right length is kept and overwritten.
 void CZEL_IpAddress::DataCopy(CZEL_String const& text) {
-  SetToInvalid();
   char const* const chars = text.GetStringC();
   u32 const length = text.GetLength();
   bool const v6 = std::memchr(chars, ':', length) != nullptr;
   u32 const count = v6 ? kMaxDigits : 4;
   u32 starts[kMaxDigits];
-  if (!FindTags(chars, length, v6 ? ':' : '.', count, starts)) return;
-  u32 const mask = v6 ? 0xFFFF : 0xFF;
-  m_Kind = v6 ? IP_V6 : IP_V4;
-  m_Digits.Create(count);
-  for (u32 i = 0; i < count; ++i) {
-    m_Digits.GetBuf()[i] = static_cast<u32>(std::strtoull(chars + starts[i], nullptr, 10)) & mask;
+  if (!FindTags(chars, length, v6 ? ':' : '.', count, starts)) {
+    SetToInvalid();
+    return;
   }
+  u32 const mask = v6 ? 0xFFFF : 0xFF;
+  if (m_Digits.GetLength() != count) m_Digits.Create(count);
+  m_Kind = v6 ? IP_V6 : IP_V4;
+  u32* const digits = m_Digits.GetBuf();
+  for (u32 i = 0; i < count; ++i)
+    digits[i] = static_cast<u32>(ReadNumber(chars + starts[i]) & mask);
 }
 
 void CZEL_IpAddress::SetToInvalid() {

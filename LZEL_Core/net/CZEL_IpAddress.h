@@ -106,8 +106,8 @@ class ZEL_API CZEL_IpAddress : public CZEL_Object {
   // Copies the kind and the digits of `other`, which may be this address.
   void DataCopy(CZEL_IpAddress const& other);
 
-  // The parser: makes this address invalid, then takes `text` as the class
-  // comment describes.
+  // The parser: takes `text` as the class comment describes; text that
+  // doesn't count out leaves this address invalid, whatever it held.
   void DataCopy(CZEL_String const& text);
 
   // Kind `IP_INVALID`, no digits.

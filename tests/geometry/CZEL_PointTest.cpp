@@ -33,7 +33,7 @@ template <typename Form>
 class PairTest : public ::testing::Test {};
 
 using Forms = ::testing::Types<PointForm<int>, PointForm<double>, SizeForm<int>, SizeForm<double>>;
-TYPED_TEST_SUITE(PairTest, Forms);
+TYPED_TEST_SUITE(PairTest, Forms, );
 
 template <typename Form>
 void ExpectPair(typename Form::Pair const& p, double first, double second) {
@@ -110,7 +110,7 @@ class NamedPairTest : public ::testing::Test {};
 
 using NamedPairs =
     ::testing::Types<CZEL_Int32Point, CZEL_DoublePoint, CZEL_Int32Size, CZEL_DoubleSize>;
-TYPED_TEST_SUITE(NamedPairTest, NamedPairs);
+TYPED_TEST_SUITE(NamedPairTest, NamedPairs, );
 
 TYPED_TEST(NamedPairTest, ForwardsToTheTemplate) {
   using N = TypeParam;
