@@ -12,6 +12,7 @@
 using ZEL::i64;
 using ZEL::u16;
 using ZEL::u32;
+using ZEL::u64;
 using ZEL::u8;
 
 namespace {
@@ -75,6 +76,200 @@ i64 YearOfMonthIndex(i64 index, CZEL_Date::t_Calendar calendar) {
   return years >= 0 || CZEL_Date::CalendarHasYearZero(calendar) ? years + 1 : years;
 }
 
+// -----------------------------------------------------------------------------
+// The calendar rules and conversions. They live here rather than in the
+// members so that the conversions can be inlined into one another; the
+// members hand on to them.
+// -----------------------------------------------------------------------------
+
+using Calendar = CZEL_Date::t_Calendar;
+using DateStruct = CZEL_Date::t_Date_Struct;
+
+bool IsKnown(Calendar calendar) { return calendar <= CZEL_Date::Calendar_Islamic; }
+
+bool InValidRange(i64 julianDay) {
+  return julianDay >= kFirstValidDay && julianDay <= kLastValidDay;
+}
+
+bool LeapYear(int year, Calendar calendar) {
+  if (year == INT_MIN) return false;
+  i64 const y1 = ClosedYear(year);
+  i64 const y0 = year < 0 ? y1 : year;  // The same, but year 0 counting as 0.
+  switch (calendar) {
+    case CZEL_Date::Calendar_Gregorian:  // Divisible by 400: by 100 and by 16.
+      return (static_cast<u64>(y1) & 3) == 0 && (y1 % 100 != 0 || (static_cast<u64>(y1) & 15) == 0);
+    case CZEL_Date::Calendar_Julian:
+      return year != 0 && Mod(y1, 4) == 0;
+    case CZEL_Date::Calendar_RevisedJulian: {
+      i64 const century = Mod(Div(y1, 100), 9);
+      return Mod(y1, 4) == 0 && (Mod(y1, 100) != 0 || century == 2 || century == 6);
+    }
+    case CZEL_Date::Calendar_Persian:
+      return Mod(Low32((y0 + 2346) * 683), 2820) < 683;
+    case CZEL_Date::Calendar_Islamic:
+      return Mod(Low32(y0 * 11 + 14), 30) < 11;
+    default:
+      return false;
+  }
+}
+
+int MonthsInYear(int year, Calendar calendar) {
+  if (!IsKnown(calendar)) return 0;
+  if (year > 0) return kMonthsPerYear;
+  u8 const has = year < 0 ? CZEL_Date::CalendarHasNegativeYears(calendar)
+                          : CZEL_Date::CalendarHasYearZero(calendar);
+  return has ? kMonthsPerYear : 0;
+}
+
+int DaysInYear(int year, Calendar calendar) {
+  return MonthsInYear(year, calendar) == 0 ? 0 : 365 + (LeapYear(year, calendar) ? 1 : 0);
+}
+
+int DaysInMonth(int month, int year, Calendar calendar) {
+  if (year == 0 || month < 1 || month > 12) return 0;
+  auto leap = [year, calendar] { return LeapYear(year, calendar) ? 1 : 0; };
+  switch (calendar) {
+    case CZEL_Date::Calendar_Gregorian:
+    case CZEL_Date::Calendar_Julian:
+    case CZEL_Date::Calendar_RevisedJulian:
+      return month == 2 ? 28 + leap() : ((month & 1) ^ (month >> 3)) | 30;
+    case CZEL_Date::Calendar_Persian:
+      return month <= 6 ? 31 : month <= 11 ? 30 : 29 + leap();
+    case CZEL_Date::Calendar_Islamic:
+      return month == 12 ? 29 + leap() : 29 + (month & 1);
+    default:
+      return 0;
+  }
+}
+
+bool DateExists(int year, int month, int day, Calendar calendar) {
+  // `DaysInMonth` is 0 for year 0 and for an unknown calendar.
+  return day >= 1 && day <= DaysInMonth(month, year, calendar);
+}
+
+// The Gregorian conversions. Their divisions round toward minus infinity;
+// shifting the years (the days) by a whole number of 400-year eras first
+// makes every operand positive, so that plain division does the same. The
+// shift covers every year an int holds and every valid day number.
+constexpr i64 kShiftEras = 5368710;
+constexpr i64 kEraDays = 146097;
+
+// The day number of a Gregorian date, `y1` being its year with the gap
+// closed.
+i64 GregorianDayNumber(i64 y1, int month, int day) {
+  int const a = (14 - month) / 12;
+  i64 const y = y1 + 4800 - a;
+  auto const m = static_cast<u32>(month + 12 * a - 3);
+  auto const shifted = static_cast<u64>(y + 400 * kShiftEras);
+  auto const leapDays = static_cast<i64>(shifted / 4 - shifted / 100 + shifted / 400);
+  return day + (153 * m + 2) / 5 + 365 * y + leapDays - 97 * kShiftEras - 32045;
+}
+
+// Fills the day and month of `date` from the valid day number `j` and
+// returns the computed year.
+i64 ReadGregorian(i64 j, DateStruct& date) {
+  auto const a = static_cast<u64>(j + 32044 + kEraDays * kShiftEras);
+  u64 const b = (4 * a + 3) / kEraDays;  // Counts the shifted eras too.
+  auto const c = static_cast<u32>(a - kEraDays * b / 4);
+  u32 const d = (4 * c + 3) / 1461;
+  u32 const e = c - 1461 * d / 4;
+  u32 const m = (5 * e + 2) / 153;
+  date.day = static_cast<int>(e - (153 * m + 2) / 5 + 1);
+  date.month = static_cast<int>(m + 3 - 12 * (m / 10));
+  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + m / 10;
+}
+
+// The day number of a date, or the null value if it doesn't exist.
+i64 DayNumber(int year, int month, int day, Calendar calendar) {
+  if (!DateExists(year, month, day, calendar)) return kNullDay;
+  i64 const y1 = ClosedYear(year);
+  i64 const t = month < 3 ? -1 : 0;  // Months 1 and 2 count with the year before.
+  switch (calendar) {
+    case CZEL_Date::Calendar_Gregorian:
+      return GregorianDayNumber(y1, month, day);
+    case CZEL_Date::Calendar_Julian:
+      return Div((y1 + t) * 1461, 4) + (153 * month - 1836 * t - 457) / 5 + day + 1721117;
+    case CZEL_Date::Calendar_RevisedJulian: {
+      i64 const m = month - 12 * t - 3;
+      i64 const y = y1 + t;
+      i64 const c = Div(y, 100);
+      i64 const r = Mod(y, 100);
+      return Div(Low32(328718 * c) + i64{6}, 9) + 36525 * r / 100 + (153 * m + 2) / 5 + day +
+             1721119;
+    }
+    case CZEL_Date::Calendar_Persian: {
+      i64 const e = year >= 1 ? year - 475 : year - 474;
+      i64 const cycle = Div(e, kPersianCycleYears);
+      i64 const rest = e - kPersianCycleYears * cycle;
+      return PersianYearStart(rest, cycle) + PersianDaysBeforeMonth(month) + day - 1;
+    }
+    default:  // Calendar_Islamic
+      return Div(Low32(10631 * y1) - i64{10617}, 30) + (325 * month - 320) / 11 + day + 1948439;
+  }
+}
+
+// Fills `date` from the day number `j` in `calendar`, which is known.
+void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
+  i64 year = 0;
+  switch (calendar) {
+    case CZEL_Date::Calendar_Gregorian:
+      year = ReadGregorian(j, date);
+      break;
+    case CZEL_Date::Calendar_Julian: {
+      i64 const c = 4 * (j - 1721118) + 3;
+      i64 const e = 5 * (Mod(c, 1461) / 4) + 2;
+      i64 const m = e / 153;
+      i64 const t = (m + 2) / 12;
+      year = static_cast<short>(static_cast<u16>(Div(c, 1461) + t));  // Cut to 16 bits.
+      date.month = static_cast<int>(m - 12 * t + 3);
+      date.day = static_cast<int>(e % 153 / 5 + 1);
+      break;
+    }
+    case CZEL_Date::Calendar_RevisedJulian: {
+      i64 const k2 = 9 * (j - 1721120) + 2;
+      i64 const c = Div(k2, 328718);
+      i64 const k1 = 100 * (Mod(k2, 328718) / 9) + 99;
+      i64 const k3 = 5 * (k1 % 36525 / 100) + 2;
+      i64 const x = k3 / 153;
+      i64 const w = (x + 2) / 12;
+      year = 100 * c + k1 / 36525 + w;
+      date.month = static_cast<int>(x - 12 * w + 3);
+      date.day = static_cast<int>(k3 % 153 / 5 + 1);
+      break;
+    }
+    case CZEL_Date::Calendar_Persian: {
+      // The year from the cycle and the mean year length; its start may lie
+      // one day after `j`'s year ends, and then `j` is the next year's first
+      // day. rest = floor(since / 365.2421985815603) in integers, exact for
+      // every day of a cycle (see PersianYearStart).
+      i64 const cycle = Div(j - kPersianEpochDay, kPersianCycleDays);
+      i64 const since = j - (kPersianCycleDays * cycle + kPersianEpochDay);
+      i64 const rest = since * kPersianCycleYears / kPersianCycleDays;
+      year = rest + kPersianCycleYears * cycle + 475;
+      i64 dayOfYear = j - PersianYearStart(rest, cycle) + 1;
+      if (dayOfYear > DaysInYear(Low32(year > 0 ? year : year - 1), calendar)) {
+        ++year;
+        dayOfYear = 1;
+      }
+      // Months 1 to 6 have 31 days, 7 to 11 have 30, and month 12 the rest.
+      int const d = static_cast<int>(dayOfYear) - 1;
+      int const month = d < 186 ? d / 31 + 1 : std::min(7 + (d - 186) / 30, 12);
+      date.month = month;
+      date.day = d - PersianDaysBeforeMonth(month) + 1;
+      break;
+    }
+    default: {  // Calendar_Islamic
+      int const k2 = Low32(30 * (j - 1948440) + 15);
+      int const k1 = static_cast<int>(11 * (Mod(k2, 10631) / 30) + 5);
+      year = Div(k2, 10631) + 1;
+      date.month = k1 / 325 + 1;
+      date.day = k1 % 325 / 11 + 1;
+      break;
+    }
+  }
+  date.year = StoredYear(year);
+}
+
 // The text of a `ToString` field of `date`, or -1 for a character that
 // names none.
 int ExpandDateField(char field, CZEL_Date::t_Date_Struct const& date, char* text) {
@@ -131,13 +326,12 @@ void CZEL_Date::DataCopy(CZEL_Date const& src) { m_JulianDay = src.m_JulianDay; 
 // `DateToJulianDay` gives the null value exactly when the date doesn't
 // exist, so one call both tests and converts.
 u32 CZEL_Date::Set(int year, int month, int day, t_Calendar calendar) {
-  m_JulianDay = DateToJulianDay(year, month, day, calendar);
-  return IsValid();
+  m_JulianDay = DayNumber(year, month, day, calendar);
+  return InValidRange(m_JulianDay) ? 1 : 0;
 }
 
 CZEL_Date CZEL_Date::CreateFromJulianDay(i64 julianDay) {
-  return julianDay >= kFirstValidDay && julianDay <= kLastValidDay ? CZEL_Date(julianDay)
-                                                                   : CZEL_Date();
+  return InValidRange(julianDay) ? CZEL_Date(julianDay) : CZEL_Date();
 }
 
 CZEL_Date CZEL_Date::GetCurrentDate() {
@@ -152,81 +346,10 @@ CZEL_Date& CZEL_Date::FromCurrentDate() { return *this = GetCurrentDate(); }
 // -----------------------------------------------------------------------------
 
 u32 CZEL_Date::GetDateStruct(t_Date_Struct& date, t_Calendar calendar) const {
-  if (IsNull()) return ZEL_ERR_FAILED;
-  if (calendar > Calendar_Islamic) return ZEL_ERR_INVALID_ARGUMENT;
-  FillDateStruct(m_JulianDay, calendar, date);
+  if (!InValidRange(m_JulianDay)) return ZEL_ERR_FAILED;
+  if (!IsKnown(calendar)) return ZEL_ERR_INVALID_ARGUMENT;
+  ReadDayNumber(m_JulianDay, calendar, date);
   return ZEL_ERR_NONE;
-}
-
-void CZEL_Date::FillDateStruct(i64 julianDay, t_Calendar calendar, t_Date_Struct& date) {
-  i64 const j = julianDay;
-  i64 year = 0;
-  switch (calendar) {
-    case Calendar_Gregorian: {
-      i64 const a = j + 32044;
-      i64 const b = Div(4 * a + 3, 146097);
-      i64 const c = a - Div(146097 * b, 4);  // From here on nothing is negative.
-      i64 const d = (4 * c + 3) / 1461;
-      i64 const e = c - 1461 * d / 4;
-      i64 const m = (5 * e + 2) / 153;
-      date.day = static_cast<int>(e - (153 * m + 2) / 5 + 1);
-      date.month = static_cast<int>(m + 3 - 12 * (m / 10));
-      year = 100 * b + d - 4800 + m / 10;
-      break;
-    }
-    case Calendar_Julian: {
-      i64 const c = 4 * (j - 1721118) + 3;
-      i64 const e = 5 * (Mod(c, 1461) / 4) + 2;
-      i64 const m = e / 153;
-      i64 const t = (m + 2) / 12;
-      year = static_cast<short>(static_cast<u16>(Div(c, 1461) + t));  // Cut to 16 bits.
-      date.month = static_cast<int>(m - 12 * t + 3);
-      date.day = static_cast<int>(e % 153 / 5 + 1);
-      break;
-    }
-    case Calendar_RevisedJulian: {
-      i64 const k2 = 9 * (j - 1721120) + 2;
-      i64 const c = Div(k2, 328718);
-      i64 const k1 = 100 * (Mod(k2, 328718) / 9) + 99;
-      i64 const k3 = 5 * (k1 % 36525 / 100) + 2;
-      i64 const x = k3 / 153;
-      i64 const w = (x + 2) / 12;
-      year = 100 * c + k1 / 36525 + w;
-      date.month = static_cast<int>(x - 12 * w + 3);
-      date.day = static_cast<int>(k3 % 153 / 5 + 1);
-      break;
-    }
-    case Calendar_Persian: {
-      // The year from the cycle and the mean year length; its start may lie
-      // one day after `j`'s year ends, and then `j` is the next year's first
-      // day. rest = floor(since / 365.2421985815603) in integers, exact for
-      // every day of a cycle (see PersianYearStart).
-      i64 const cycle = Div(j - kPersianEpochDay, kPersianCycleDays);
-      i64 const since = j - (kPersianCycleDays * cycle + kPersianEpochDay);
-      i64 const rest = since * kPersianCycleYears / kPersianCycleDays;
-      year = rest + kPersianCycleYears * cycle + 475;
-      i64 dayOfYear = j - PersianYearStart(rest, cycle) + 1;
-      if (dayOfYear > GetDaysPerYear(Low32(year > 0 ? year : year - 1), Calendar_Persian)) {
-        ++year;
-        dayOfYear = 1;
-      }
-      // Months 1 to 6 have 31 days, 7 to 11 have 30, and month 12 the rest.
-      int const d = static_cast<int>(dayOfYear) - 1;
-      int const month = d < 186 ? d / 31 + 1 : std::min(7 + (d - 186) / 30, 12);
-      date.month = month;
-      date.day = d - PersianDaysBeforeMonth(month) + 1;
-      break;
-    }
-    default: {  // Calendar_Islamic
-      int const k2 = Low32(30 * (j - 1948440) + 15);
-      int const k1 = static_cast<int>(11 * (Mod(k2, 10631) / 30) + 5);
-      year = Div(k2, 10631) + 1;
-      date.month = k1 / 325 + 1;
-      date.day = k1 % 325 / 11 + 1;
-      break;
-    }
-  }
-  date.year = StoredYear(year);
 }
 
 int CZEL_Date::GetDay(t_Calendar calendar) const {
@@ -267,9 +390,7 @@ int CZEL_Date::GetDaysPerYear(t_Calendar calendar) const {
   return GetDaysPerYear(date.year, calendar);
 }
 
-u8 CZEL_Date::IsValid() const {
-  return m_JulianDay >= kFirstValidDay && m_JulianDay <= kLastValidDay ? 1 : 0;
-}
+u8 CZEL_Date::IsValid() const { return InValidRange(m_JulianDay) ? 1 : 0; }
 
 u8 CZEL_Date::IsNull() const { return IsValid() ? 0 : 1; }
 
@@ -285,102 +406,27 @@ CZEL_String CZEL_Date::ToString(CZEL_String const& format, t_Calendar calendar) 
 // -----------------------------------------------------------------------------
 
 int CZEL_Date::GetDaysPerMonth(int month, int year, t_Calendar calendar) {
-  if (year == 0 || month < 1 || month > 12) return 0;
-  switch (calendar) {
-    case Calendar_Gregorian:
-    case Calendar_Julian:
-    case Calendar_RevisedJulian:
-      return month == 2 ? 28 + IsLeapYear(year, calendar) : ((month & 1) ^ (month >> 3)) | 30;
-    case Calendar_Persian:
-      return month <= 6 ? 31 : month <= 11 ? 30 : 29 + IsLeapYear(year, calendar);
-    case Calendar_Islamic:
-      return month == 12 ? 29 + IsLeapYear(year, calendar) : 29 + (month & 1);
-    default:
-      return 0;
-  }
+  return DaysInMonth(month, year, calendar);
 }
 
-int CZEL_Date::GetDaysPerYear(int year, t_Calendar calendar) {
-  if (GetMonthsPerYear(year, calendar) == 0) return 0;
-  return 365 + IsLeapYear(year, calendar);
-}
+int CZEL_Date::GetDaysPerYear(int year, t_Calendar calendar) { return DaysInYear(year, calendar); }
 
 int CZEL_Date::GetMonthsPerYear(int year, t_Calendar calendar) {
-  if (calendar > Calendar_Islamic) return 0;
-  if (year > 0) return kMonthsPerYear;
-  u8 const has = year < 0 ? CalendarHasNegativeYears(calendar) : CalendarHasYearZero(calendar);
-  return has ? kMonthsPerYear : 0;
+  return MonthsInYear(year, calendar);
 }
 
 u8 CZEL_Date::CalendarHasYearZero(t_Calendar /*calendar*/) { return 0; }
 
-u8 CZEL_Date::CalendarHasNegativeYears(t_Calendar calendar) {
-  return calendar <= Calendar_Islamic ? 1 : 0;
-}
+u8 CZEL_Date::CalendarHasNegativeYears(t_Calendar calendar) { return IsKnown(calendar) ? 1 : 0; }
 
-u8 CZEL_Date::IsLeapYear(int year, t_Calendar calendar) {
-  if (year == INT_MIN) return 0;
-  i64 const y1 = ClosedYear(year);
-  i64 const y0 = year < 0 ? y1 : year;  // The same, but year 0 counting as 0.
-  bool leap = false;
-  switch (calendar) {
-    case Calendar_Gregorian:
-      leap = (Mod(y1, 4) == 0 && Mod(y1, 100) != 0) || Mod(y1, 400) == 0;
-      break;
-    case Calendar_Julian:
-      leap = year != 0 && Mod(y1, 4) == 0;
-      break;
-    case Calendar_RevisedJulian:
-      leap = Mod(y1, 4) == 0 &&
-             (Mod(y1, 100) != 0 || Mod(Div(y1, 100), 9) == 2 || Mod(Div(y1, 100), 9) == 6);
-      break;
-    case Calendar_Persian:
-      leap = Mod(Low32((y0 + 2346) * 683), 2820) < 683;
-      break;
-    case Calendar_Islamic:
-      leap = Mod(Low32(y0 * 11 + 14), 30) < 11;
-      break;
-    default:
-      break;
-  }
-  return leap ? 1 : 0;
-}
+u8 CZEL_Date::IsLeapYear(int year, t_Calendar calendar) { return LeapYear(year, calendar) ? 1 : 0; }
 
 u8 CZEL_Date::IsValid(int year, int month, int day, t_Calendar calendar) {
-  // `GetDaysPerMonth` is 0 for year 0 and for an unknown calendar.
-  return day >= 1 && day <= GetDaysPerMonth(month, year, calendar) ? 1 : 0;
+  return DateExists(year, month, day, calendar) ? 1 : 0;
 }
 
 i64 CZEL_Date::DateToJulianDay(int year, int month, int day, t_Calendar calendar) {
-  if (!IsValid(year, month, day, calendar)) return kNullDay;
-  i64 const y1 = ClosedYear(year);
-  i64 const t = month < 3 ? -1 : 0;  // Months 1 and 2 count with the year before.
-  switch (calendar) {
-    case Calendar_Gregorian: {
-      i64 const a = (14 - month) / 12;
-      i64 const y = y1 + 4800 - a;
-      i64 const m = month + 12 * a - 3;
-      return day + (153 * m + 2) / 5 + 365 * y + Div(y, 4) - Div(y, 100) + Div(y, 400) - 32045;
-    }
-    case Calendar_Julian:
-      return Div((y1 + t) * 1461, 4) + (153 * month - 1836 * t - 457) / 5 + day + 1721117;
-    case Calendar_RevisedJulian: {
-      i64 const m = month - 12 * t - 3;
-      i64 const y = y1 + t;
-      i64 const c = Div(y, 100);
-      i64 const r = Mod(y, 100);
-      return Div(Low32(328718 * c) + i64{6}, 9) + 36525 * r / 100 + (153 * m + 2) / 5 + day +
-             1721119;
-    }
-    case Calendar_Persian: {
-      i64 const e = year >= 1 ? year - 475 : year - 474;
-      i64 const cycle = Div(e, kPersianCycleYears);
-      i64 const rest = e - kPersianCycleYears * cycle;
-      return PersianYearStart(rest, cycle) + PersianDaysBeforeMonth(month) + day - 1;
-    }
-    default:  // Calendar_Islamic
-      return Div(Low32(10631 * y1) - i64{10617}, 30) + (325 * month - 320) / 11 + day + 1948439;
-  }
+  return DayNumber(year, month, day, calendar);
 }
 
 // -----------------------------------------------------------------------------
@@ -423,7 +469,7 @@ CZEL_Date CZEL_Date::FromClampedStruct(i64 year, int month, int day, t_Calendar 
   if (year == 0 && !CalendarHasYearZero(calendar)) return CZEL_Date();
   if (year < INT_MIN || year > INT_MAX) return CZEL_Date();
   int const y = static_cast<int>(year);
-  return CZEL_Date(y, month, std::min(day, GetDaysPerMonth(month, y, calendar)), calendar);
+  return CZEL_Date(y, month, std::min(day, DaysInMonth(month, y, calendar)), calendar);
 }
 
 i64 CZEL_Date::GetDaysTo(CZEL_Date const& other) const {

@@ -251,9 +251,6 @@ class ZEL_API CZEL_Date : public CZEL_Object {
   // `day` cut to the length of the month.
   static CZEL_Date FromClampedStruct(ZEL::i64 year, int month, int day, t_Calendar calendar);
 
-  // Fills `date` from `julianDay` in `calendar`, which is known.
-  static void FillDateStruct(ZEL::i64 julianDay, t_Calendar calendar, t_Date_Struct& date);
-
   // The serialised form writes and reads the day number as it stands.
   friend ZEL_API CZEL_Buffer& operator<<(CZEL_Buffer& buffer, CZEL_Date const& date);
   friend ZEL_API CZEL_Buffer& operator>>(CZEL_Buffer& buffer, CZEL_Date& date);
