@@ -82,9 +82,11 @@ class ZEL_API CZEL_IpAddress : public CZEL_Object {
   // IPv4 as "%d.%d.%d.%d" ("192.168.0.1"); IPv6 as eight groups of
   // "%04X" joined by ':', upper-case hexadecimal, never shortened
   // ("000A:0014:001E:0028:0032:003C:0046:0050"); the empty string for an
-  // invalid address. Digits are printed as the address holds them: one that
-  // the stream form delivered above the kind's range prints in full, and a
-  // digit missing from a short digit list prints as 0.
+  // invalid address. Digits are printed as the address holds them, which
+  // matters only for what the stream form can deliver: a digit above the
+  // kind's range prints in full (through "%d" for IPv4, so one above
+  // 2147483647 prints negative), a digit missing from a short list prints
+  // as 0, and digits past the fourth or eighth are left out.
   CZEL_String ToString() const;
 
   // The low 8 bits of digit `index` (for IPv6 the low byte of the group:

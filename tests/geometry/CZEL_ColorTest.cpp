@@ -85,18 +85,13 @@ TEST(ColorTest, SetHlsRunsEveryArgumentThroughTheSameArithmetic) {
 
 TEST(ColorTest, WordKeepsTheTopByteComponentsDropIt) {
   CZEL_Color c;
-  EXPECT_EQ(c.GetUnsignedColor(), 0u);
   EXPECT_EQ(&(c = 0xAB223344u), &c);
-  EXPECT_EQ(c.GetR(), 68);
-  EXPECT_EQ(c.GetG(), 51);
-  EXPECT_EQ(c.GetB(), 34);
-  EXPECT_EQ(c.GetUnsignedColor(), 0xAB223344u);
-  EXPECT_EQ(ZEL::u32(c), 0xAB223344u);
   ZEL::u8 r = 0;
   ZEL::u8 g = 0;
   ZEL::u8 b = 0;
   c.GetRGB(r, g, b);
   EXPECT_EQ(r + g * 256 + b * 65536, 0x223344);
+  EXPECT_EQ(ZEL::u32(c), 0xAB223344u);
   CZEL_Color copy(c);
   CZEL_Color assigned;
   EXPECT_EQ(&(assigned = copy), &assigned);
@@ -105,10 +100,8 @@ TEST(ColorTest, WordKeepsTheTopByteComponentsDropIt) {
   EXPECT_EQ(assigned.GetUnsignedColor(), 0xFF000001u);
   EXPECT_EQ(&c.SetR(68), &c);
   EXPECT_EQ(c.GetUnsignedColor(), 0x00223344u);
-  copy.SetG(1).SetB(2);
-  EXPECT_EQ(copy.GetUnsignedColor(), 0x00020144u);
+  EXPECT_EQ(copy.SetG(1).SetB(2).GetUnsignedColor(), 0x00020144u);
   EXPECT_EQ(CZEL_Color(1, 2, 3).GetUnsignedColor(), 0x030201u);
-  EXPECT_EQ(CZEL_Color(0x12345678u).GetUnsignedColor(), 0x12345678u);
 }
 
 TEST(ColorTest, OneHlsComponentAtATime) {

@@ -129,4 +129,21 @@ TEST(IpAddressTest, CopiesAndAssignments) {
   EXPECT_EQ(Print(address), "");
 }
 
+// An address with any kind and digit list, as the stream form can deliver.
+struct SStreamed : CZEL_IpAddress {
+  SStreamed(ZEL::u32 kind, std::vector<ZEL::u32> digits) {
+    m_Kind = kind;
+    if (!digits.empty()) m_Digits.Create(digits.data(), ZEL::u32(digits.size()));
+  }
+};
+
+TEST(IpAddressTest, PrintsDigitListsAsHeld) {
+  EXPECT_EQ(Print(SStreamed(CZEL_IpAddress::IP_V4, {1, 2, 3})), "1.2.3.0");
+  EXPECT_EQ(Print(SStreamed(CZEL_IpAddress::IP_V4, {4294967295u, 256, 3, 4, 5})), "-1.256.3.4");
+  EXPECT_EQ(Print(SStreamed(CZEL_IpAddress::IP_V6, {0x12345, 0, 0, 0, 0, 0, 0})),
+            "12345:0000:0000:0000:0000:0000:0000:0000");
+  EXPECT_EQ(Print(SStreamed(2, {1, 2, 3, 4})), "");
+  EXPECT_EQ(SStreamed(CZEL_IpAddress::IP_V4, {1, 2, 3}) == Parse("1.2.3.0"), 0);
+}
+
 }  // namespace
