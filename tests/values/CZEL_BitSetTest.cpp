@@ -89,7 +89,8 @@ TEST(CZEL_BitSetLayout, AssigningANumberKeepsAOneWordLengthAndLengthsKeepTheirWo
   EXPECT_EQ(wide.IsValid(), 0);
   EXPECT_EQ(wide.GetBit(0), 0);
   CZEL_BitSet copy(twelve);
-  copy = copy;
+  CZEL_BitSet const& same = copy;
+  copy = same;
   EXPECT_EQ(copy.ToUnsigned(), 0x12345u);
   copy = fresh = CZEL_BitSet();
   EXPECT_EQ(copy.IsValid() + fresh.IsValid(), 0);
@@ -181,7 +182,8 @@ TEST(CZEL_BitSetLogic, WholeSetOperatorsTakeTheSmallerSizeAndCombineTails) {
   out ^= b;  // rebuilt: this side is the longer
   EXPECT_EQ(out.GetNumBits(), 10u);
   EXPECT_EQ(out.ToUnsigned(), kAll - 0x155);
-  out &= out;
+  CZEL_BitSet const& same = out;
+  out &= same;
   EXPECT_EQ(out.ToUnsigned(), kAll - 0x155);
 }
 
