@@ -169,7 +169,7 @@ TEST(CZEL_BitSetText, BasesTwoAndSixteenCoverTheLengthOthersGoThroughWordZero) {
   EXPECT_EQ(Text(Make(10, 0x2AA), 2, 4), "10 1010 1010");
   EXPECT_EQ(Text(CZEL_BitSet(6, 1), 16, 4), "FF");
   EXPECT_EQ(Text(Make(72, 0x0123456789ABCDEFu, 0xFE), 16, 4), "FE 0123 4567 89AB CDEF");
-  EXPECT_EQ(Text(Make(72, 1, 0x80), 2, 64).substr(0, 12), "10000000 000");
+  EXPECT_EQ(Text(Make(72, 1, 0x80), 2, 8).substr(0, 12), "10000000 000");
   EXPECT_EQ(Text(Make(12, 0x1234), 10, 3), "4 660");
   EXPECT_EQ(Text(CZEL_BitSet(65, 0), 10, 0) + Text(CZEL_BitSet(), 2, 0), "");
 }
