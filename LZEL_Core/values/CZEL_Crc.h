@@ -299,7 +299,7 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
 
   // An object configured as the catalogue member `type`, as by `Create`.
   // Throws ZEL_ERR_INVALID_ARGUMENT for a value that is no member.
-  explicit CZEL_Crc(t_StdCrc type);
+  CZEL_Crc(t_StdCrc type);
 
   // An object configured with the given parameters, as by
   // `CreatePolynomial`. A `type` outside `CrcType_8` to `CrcType_64` builds
