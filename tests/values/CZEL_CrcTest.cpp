@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "../containers/ContainerTestSupport.h"
+#include "CrcReference.h"
 
 namespace {
 
@@ -18,40 +19,10 @@ using ZEL::u64;
 using ZEL::u8;
 using C = CZEL_Crc;
 using Bytes = std::vector<u8>;
-
-struct Params {
-  u32 width;
-  u64 poly;
-  u64 seed;
-  bool reflectIn;
-  bool reflectOut;
-  u64 finalXor;
-};
-
-u64 Mask(u32 width) { return width == 64 ? ~u64{0} : (u64{1} << width) - 1; }
-
-u64 Reverse(u64 value, u32 bits) {
-  u64 out = 0;
-  for (u32 i = 0; i < bits; ++i) out |= ((value >> i) & 1) << (bits - 1 - i);
-  return out;
-}
-
-// The CRC one bit at a time, the register starting from `reg` as it stands.
-u64 Reference(Params const& p, u64 reg, u8 const* data, size_t size) {
-  u64 const mask = Mask(p.width);
-  u64 const top = u64{1} << (p.width - 1);
-  reg &= mask;
-  for (size_t i = 0; i < size; ++i) {
-    u64 const byte = p.reflectIn ? Reverse(data[i], 8) : data[i];
-    for (int bit = 7; bit >= 0; --bit) {
-      bool const feedback = ((reg & top) != 0) != (((byte >> bit) & 1) != 0);
-      reg = (reg << 1) & mask;
-      if (feedback) reg ^= p.poly & mask;
-    }
-  }
-  if (p.reflectOut) reg = Reverse(reg, p.width);
-  return (reg ^ p.finalXor) & mask;
-}
+using zel_crc_reference::Mask;
+using zel_crc_reference::Params;
+using zel_crc_reference::Reference;
+using zel_crc_reference::TypeOf;
 
 Params ParamsOf(C const& crc) {
   return {crc.GetSize(),
@@ -85,13 +56,6 @@ u64 Check(C const& engine, u32 width) {
     engine.ComputeCheckValue(&value);
     return u64{value};
   });
-}
-
-C::t_CrcType TypeOf(u32 width) {
-  return width == 8    ? C::CrcType_8
-         : width == 16 ? C::CrcType_16
-         : width == 32 ? C::CrcType_32
-                       : C::CrcType_64;
 }
 
 Bytes Text(char const* text) { return Bytes(text, text + std::strlen(text)); }
