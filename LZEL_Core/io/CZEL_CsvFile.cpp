@@ -105,7 +105,9 @@ CZEL_CsvFile::CZEL_CsvFile(u32 fieldCount, char separator, u32 lineEnd)
 }
 
 CZEL_CsvFile::CZEL_CsvFile(CZEL_CsvFile const& src)
-    : CZEL_File(), m_FieldCount(src.m_FieldCount), m_Separator(src.m_Separator),
+    : CZEL_File(),
+      m_FieldCount(src.m_FieldCount),
+      m_Separator(src.m_Separator),
       m_LineEnd(src.m_LineEnd) {
   DataCopy(src);
 }

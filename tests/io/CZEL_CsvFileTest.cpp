@@ -10,11 +10,12 @@
 #include <string>
 #include <vector>
 
-#include "FormatTestSupport.h"
+#include "IoTestSupport.h"
 
 namespace {
 
-using zel_test::TempDir;
+using zel_test::Slurp;
+using zel_test::Spit;
 using zel_test::Text;
 using Fields = std::vector<std::string>;
 
@@ -35,28 +36,28 @@ Fields Items(CZEL_StringVector const& record) {
   return out;
 }
 
-class CsvFileTest : public ::testing::Test {
+class CsvFileTest : public zel_test::TempDirTest {
  protected:
   // Writes `records` with a new CZEL_CsvFile of the given settings and returns
   // the file's bytes.
   std::string Written(std::vector<Fields> const& records, ZEL::u32 fieldCount = 3,
                       char separator = ';', ZEL::u32 lineEnd = kCrLf) {
     CZEL_CsvFile csv(fieldCount, separator, lineEnd);
-    EXPECT_EQ(csv.Open(dir.Path("out.csv"), kNewFile), 0u);
+    EXPECT_EQ(csv.Open(Z("out.csv"), kNewFile), 0u);
     for (Fields const& fields : records) {
       CZEL_StringVector record = MakeRecord(fields);
       EXPECT_EQ(csv.WriteRecord(record), 0u);
     }
     csv.Close();
-    return dir.Read("out.csv");
+    return Slurp(PathOf("out.csv"));
   }
 
   // Reads a file of `bytes` with 3 fields and ';': the records, or nothing,
   // with the record count in `count`.
   std::vector<Fields> ReadBack(std::string const& bytes, ZEL::u32& count, bool& failed) {
-    dir.Write("in.csv", bytes);
+    Spit(PathOf("in.csv"), bytes);
     CZEL_CsvFile csv(3, ';', kCrLf);
-    CZEL_StringVector* records = csv.ReadFile(dir.Path("in.csv"), count);
+    CZEL_StringVector* records = csv.ReadFile(Z("in.csv"), count);
     failed = records == nullptr;
     std::vector<Fields> out;
     if (failed) return out;
@@ -64,8 +65,6 @@ class CsvFileTest : public ::testing::Test {
     delete[] records;
     return out;
   }
-
-  TempDir dir;
 };
 
 TEST(CZEL_CsvFileConstruction, ZeroFieldsThrowWithoutObject) {
@@ -83,7 +82,7 @@ TEST_F(CsvFileTest, WriterQuotesOnlyFieldsWithTheSeparator) {
       {{"a", "b", ""}, "a;b;\r\n"},
       {{"", "", ""}, ";;\r\n"},
       {{"\"q\"", "x,y", "l\nf"}, "\"q\";x,y;l\nf\r\n"},  // quotes kept, line break raw
-      {{"a", std::string("b\0c", 3), "d"}, "a;b\r\n"},  // a NUL ends the whole text
+      {{"a", std::string("b\0c", 3), "d"}, "a;b\r\n"},   // a NUL ends the whole text
   };
   for (Case const& c : cases) EXPECT_EQ(Written({c.fields}), c.bytes) << c.bytes;
 }
@@ -97,14 +96,14 @@ TEST_F(CsvFileTest, LineEndsAndSingleFieldRecords) {
 
 TEST_F(CsvFileTest, ListRecordsWriteLikeVectorsAndLeaveTheCursorOnTheLast) {
   CZEL_CsvFile csv(3, ';', kCrLf);
-  ASSERT_EQ(csv.Open(dir.Path("list.csv"), kNewFile), 0u);
+  ASSERT_EQ(csv.Open(Z("list.csv"), kNewFile), 0u);
   CZEL_StringList list;
   for (char const* field : {"a", "b;c", "d"}) list += CZEL_String(field);
   list.ToStart();
   EXPECT_EQ(csv.WriteRecord(list), 0u);
   EXPECT_EQ(Text(list.CurItem()), "d");
   csv.Close();
-  EXPECT_EQ(dir.Read("list.csv"), "a;\"b;c\";d\r\n");
+  EXPECT_EQ(Slurp(PathOf("list.csv")), "a;\"b;c\";d\r\n");
 }
 
 TEST_F(CsvFileTest, WrongFieldCountAndClosedFile) {
@@ -115,12 +114,12 @@ TEST_F(CsvFileTest, WrongFieldCountAndClosedFile) {
   twoList = two;
   EXPECT_EQ(csv.WriteRecord(three), ZEL_ERR_FILE_NOT_OPEN);
 
-  ASSERT_EQ(csv.Open(dir.Path("w.csv"), kNewFile), 0u);
+  ASSERT_EQ(csv.Open(Z("w.csv"), kNewFile), 0u);
   EXPECT_EQ(csv.WriteRecord(three), 0u);
   EXPECT_EQ(csv.WriteRecord(two), ZEL_ERR_INVALID_ARGUMENT);
   EXPECT_EQ(csv.WriteRecord(twoList), ZEL_ERR_INVALID_ARGUMENT);
   csv.Close();
-  EXPECT_EQ(dir.Read("w.csv"), "a;b;c\r\n");
+  EXPECT_EQ(Slurp(PathOf("w.csv")), "a;b;c\r\n");
 
   // An empty line with no line end writes nothing, so even a closed file takes it.
   CZEL_CsvFile bare(1, ';', 0);
@@ -129,13 +128,13 @@ TEST_F(CsvFileTest, WrongFieldCountAndClosedFile) {
 }
 
 TEST_F(CsvFileTest, AppendingAddsRecordsBehindTheOldOnes) {
-  dir.Write("log.csv", "a;b;c\r\n");
+  Spit(PathOf("log.csv"), "a;b;c\r\n");
   CZEL_CsvFile csv(3, ';', kCrLf);
-  ASSERT_EQ(csv.Open(dir.Path("log.csv"), CZEL_File::FILE_OPEN_WRITE), 0u);
+  ASSERT_EQ(csv.Open(Z("log.csv"), CZEL_File::FILE_OPEN_WRITE), 0u);
   CZEL_StringVector record = MakeRecord({"d", "e", "f"});
   EXPECT_EQ(csv.WriteRecord(record), 0u);
   csv.Close();
-  EXPECT_EQ(dir.Read("log.csv"), "a;b;c\r\nd;e;f\r\n");
+  EXPECT_EQ(Slurp(PathOf("log.csv")), "a;b;c\r\nd;e;f\r\n");
 }
 
 // The reader splits at every separator, knows no quotes, drops CR and NUL,
@@ -181,13 +180,13 @@ TEST_F(CsvFileTest, WrittenRecordsReadBack) {
 TEST_F(CsvFileTest, MissingFileLeavesTheCountAndReadingClosesTheFile) {
   CZEL_CsvFile csv(3, ';', kCrLf);
   ZEL::u32 count = 7;
-  EXPECT_EQ(csv.ReadFile(dir.Path("missing.csv"), count), nullptr);
+  EXPECT_EQ(csv.ReadFile(Z("missing.csv"), count), nullptr);
   EXPECT_EQ(count, 7u);
 
   // A reading replaces the stream that was open for writing and closes it.
-  dir.Write("in.csv", "a;b;c\n");
-  ASSERT_EQ(csv.Open(dir.Path("out.csv"), kNewFile), 0u);
-  CZEL_StringVector* records = csv.ReadFile(dir.Path("in.csv"), count);
+  Spit(PathOf("in.csv"), "a;b;c\n");
+  ASSERT_EQ(csv.Open(Z("out.csv"), kNewFile), 0u);
+  CZEL_StringVector* records = csv.ReadFile(Z("in.csv"), count);
   ASSERT_NE(records, nullptr);
   delete[] records;
   CZEL_StringVector record = MakeRecord({"a", "b", "c"});
@@ -200,11 +199,11 @@ TEST_F(CsvFileTest, CopiesTakeTheSettings) {
   CZEL_CsvFile assigned(3, ';', kCrLf);
   assigned = source;
   for (CZEL_CsvFile* csv : {&copy, &assigned}) {
-    ASSERT_EQ(csv->Open(dir.Path("copy.csv"), kNewFile), 0u);
+    ASSERT_EQ(csv->Open(Z("copy.csv"), kNewFile), 0u);
     CZEL_StringVector record = MakeRecord({"a", "b,c"});
     EXPECT_EQ(csv->WriteRecord(record), 0u);
     csv->Close();
-    EXPECT_EQ(dir.Read("copy.csv"), "a,\"b,c\"\n");
+    EXPECT_EQ(Slurp(PathOf("copy.csv")), "a,\"b,c\"\n");
   }
 }
 
