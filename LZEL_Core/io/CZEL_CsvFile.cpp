@@ -93,6 +93,34 @@ class CLineSplitter {
   u64 m_Pos;
 };
 
+// Calls `emit(text, length)` for each field of `line` split at `separator`,
+// by the rule of `CZEL_String::ExtractTags`: empty fields at the start and
+// between separators count, an empty one after a final separator does not.
+template <typename Emit>
+void ScanFields(std::string const& line, char separator, Emit&& emit) {
+  u32 const length = static_cast<u32>(line.size());
+  u32 start = 0;
+  for (u32 pos = 0; pos < length; ++pos) {
+    if (line[pos] != separator) continue;
+    emit(line.data() + start, pos - start);
+    start = pos + 1;
+  }
+  if (start < length) emit(line.data() + start, length - start);
+}
+
+// Fills the `count` fields of `record`, created here, from `line`. Each field
+// string gets its exact buffer once and the text is copied into it, so that
+// a field costs one allocation beside the vector's own.
+void FillRecord(std::string const& line, char separator, u32 count, CZEL_StringVector& record) {
+  record.Create(count);
+  CZEL_String* field = record.GetBuf();
+  ScanFields(line, separator, [&field](char const* text, u32 length) {
+    field->SetLength(length, ' ');
+    if (length != 0) std::memcpy(field->GetStringC(), text, length);
+    ++field;
+  });
+}
+
 }  // namespace
 
 // -----------------------------------------------------------------------------
@@ -165,8 +193,9 @@ u32 CZEL_CsvFile::WriteRecord(CZEL_StringList& fields) {
 // -----------------------------------------------------------------------------
 
 // A first pass finds the lines, so that the array is made once with its
-// exact length; the second splits each line into its record and checks the
-// field count, the records before a bad line being counted and then dropped.
+// exact length. The second counts each line's fields, as `ExtractTags` would
+// split it, and only a line of the right count is split into its record;
+// the records before a bad line are counted and then dropped.
 CZEL_StringVector* CZEL_CsvFile::ReadFile(CZEL_String const& path, u32& recordCount) {
   if (Open(path, FILE_OPEN_READ) != ZEL_ERR_NONE) return nullptr;
   CZEL_File& file = *this;
@@ -187,10 +216,11 @@ CZEL_StringVector* CZEL_CsvFile::ReadFile(CZEL_String const& path, u32& recordCo
   CLineSplitter splitter(bytes.data(), bytes.size(), length);
   for (u32 i = 0; i < lines; ++i) {
     splitter.Next(sLine);
-    CZEL_StringVector& record = records[i];
-    CZEL_String(sLine.data(), static_cast<u32>(sLine.size())).ExtractTags(m_Separator, record);
+    u32 fields = 0;
+    ScanFields(sLine, m_Separator, [&fields](char const*, u32) { ++fields; });
     ++recordCount;
-    if (record.GetLength() != m_FieldCount) return nullptr;
+    if (fields != m_FieldCount) return nullptr;
+    FillRecord(sLine, m_Separator, fields, records[i]);
   }
   return step == CLineSplitter::END ? records.release() : nullptr;
 }

@@ -18,7 +18,6 @@ constexpr u32 kInfoRestBytes = 36;
 constexpr u32 kMinInfoFileBytes = kFileHeaderBytes + kInfoRestBytes;
 // Where the info header starts, so the palette starts at this plus `biSize`.
 constexpr u32 kInfoOffset = 14;
-constexpr u32 kClassicHeaderSize = 40;
 
 bool IsKnownHeaderSize(u32 size) { return size == 40 || size == 108 || size == 124; }
 
@@ -130,7 +129,7 @@ u32 CZEL_WinBitmapData::LoadFromFile(CZEL_String const& path) {
   if (result != ZEL_ERR_NONE) return result;
 
   m_Palette.DeleteAll();
-  u32 const depth = GetPaletteDepth();
+  u32 const depth = PaletteDepthOf(m_Info);
   if (depth != 0) {
     result = ReadItems(file, u64{m_Info.biSize} + kInfoOffset, m_Palette, depth, 4);
     if (result != ZEL_ERR_NONE) {
@@ -169,7 +168,7 @@ CZEL_WinBitmapData::SInfoHeader const* CZEL_WinBitmapData::GetInfo() { return &m
 void CZEL_WinBitmapData::SetIntParams() {
   if (m_Info.biSize != kClassicHeaderSize) return;
   u32 const bits = u32{m_Info.biBitCount} * static_cast<u32>(m_Info.biWidth);
-  if (GetPaletteDepth() > 0) {
+  if (PaletteDepthOf(m_Info) > 0) {
     u32 const bytes = bits / 8 + (bits % 8 != 0 ? 1 : 0);
     m_RowStride = bytes % 4 == 0 ? bytes : (bytes / 4) * 4 + 4;
   } else {
@@ -182,84 +181,10 @@ void CZEL_WinBitmapData::SetIntParams() {
 // Palette
 // -----------------------------------------------------------------------------
 
-u32 CZEL_WinBitmapData::GetPaletteDepth() { return GetPaletteDepth(m_Info); }
+u32 CZEL_WinBitmapData::GetPaletteDepth() { return PaletteDepthOf(m_Info); }
 
-u32 CZEL_WinBitmapData::GetPaletteDepth(SInfoHeader& info) {
-  if (info.biClrUsed != 0) return info.biClrUsed & 0xFFFF;
-  switch (info.biBitCount) {
-    case 1:
-      return 2;
-    case 4:
-      return 16;
-    case 8:
-      return 256;
-    default:
-      return 0;
-  }
-}
+u32 CZEL_WinBitmapData::GetPaletteDepth(SInfoHeader& info) { return PaletteDepthOf(info); }
 
 u32 CZEL_WinBitmapData::GetPaletteEntry(u32 index) {
   return index < m_Palette.GetLength() ? m_Palette[index] : 0;
-}
-
-// -----------------------------------------------------------------------------
-// Pixels
-// -----------------------------------------------------------------------------
-
-u32 CZEL_WinBitmapData::StoredRow(u32 y) const {
-  return m_Info.biHeight > 0 ? static_cast<u32>(m_Info.biHeight) - y - 1 : y;
-}
-
-u32 CZEL_WinBitmapData::CheckInside(u32 x, u32 y) const {
-  bool const outside =
-      static_cast<int>(y) >= m_Info.biHeight || static_cast<int>(x) >= m_Info.biWidth;
-  return outside ? ZEL_ERR_OUT_OF_RANGE : ZEL_ERR_NONE;
-}
-
-u32 CZEL_WinBitmapData::GetPixelColorIndexNoCheck(u32 x, u32 y, u32& index) {
-  u32 const row = StoredRow(y) * m_RowStride;
-  switch (m_Info.biBitCount) {
-    case 8:
-      index = m_Pixels[row + x];
-      return ZEL_ERR_NONE;
-    case 1:
-      // The leftmost pixel is the byte's top bit.
-      index = (m_Pixels[row + x / 8] >> (7 - x % 8)) & 1u;
-      return ZEL_ERR_NONE;
-    default:
-      return ZEL_ERR_NOT_SUPPORTED;
-  }
-}
-
-u32 CZEL_WinBitmapData::GetPixelColorIndex(u32 x, u32 y, u32& index) {
-  if (GetPaletteDepth() == 0) return ZEL_ERR_NOT_READY;
-  u32 const result = CheckInside(x, y);
-  if (result != ZEL_ERR_NONE) return result;
-  return GetPixelColorIndexNoCheck(x, y, index);
-}
-
-u32 CZEL_WinBitmapData::GetPixelColor(u32 x, u32 y, ZEL::t_WinRgbQuad& color) {
-  u32 result = CheckInside(x, y);
-  if (result != ZEL_ERR_NONE) return result;
-  if (m_Info.biSize != kClassicHeaderSize) return ZEL_ERR_NOT_READY;
-  if (GetPaletteDepth() == 0) return GetTrueColor(x, y, color);
-  u32 colidx = 0;
-  result = GetPixelColorIndexNoCheck(x, y, colidx);
-  if (result != ZEL_ERR_NONE) return result;
-  color = ZEL::ToWinRgbQuad32Bit(m_Palette[colidx]);
-  return ZEL_ERR_NONE;
-}
-
-// The address is a byte offset computed in 32 bits, with the row in units of
-// 4 bytes. Only its first byte is tested here; the vector throws for the
-// other two if the pixels end before them.
-u32 CZEL_WinBitmapData::GetTrueColor(u32 x, u32 y, ZEL::t_WinRgbQuad& color) {
-  if (m_Info.biBitCount != 24) return ZEL_ERR_NOT_SUPPORTED;
-  u32 const address = x * 3 + (m_FirstPixelWord + StoredRow(y) * m_RowStride) * 4;
-  if (address >= m_Pixels.GetLength()) return ZEL_ERR_OUT_OF_RANGE;
-  color.blue = m_Pixels[address];
-  color.green = m_Pixels[address + 1];
-  color.red = m_Pixels[address + 2];
-  color.reserved = 0;
-  return ZEL_ERR_NONE;
 }

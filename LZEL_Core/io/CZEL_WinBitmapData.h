@@ -57,6 +57,7 @@
 #include <LZEL_Core/containers/CZEL_Uint32Vector.h>
 #include <LZEL_Core/containers/CZEL_Uint8Vector.h>
 #include <LZEL_Core/frame/CZEL_Object.h>
+#include <LZEL_Core/frame/ZEL_Errors.h>
 #include <LZEL_Core/frame/ZEL_Primitives.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 #include <LZEL_Core/text/CZEL_String.h>
@@ -191,15 +192,116 @@ class ZEL_API CZEL_WinBitmapData : public CZEL_Object {
   CZEL_Uint8Vector m_Pixels;
 
  private:
-  // The stored row of image row `y`: bottom-up for a positive height.
-  ZEL::u32 StoredRow(ZEL::u32 y) const;
+  // The size of the one header that is read completely.
+  static constexpr ZEL::u32 kClassicHeaderSize = 40;
 
-  // ZEL_ERR_OUT_OF_RANGE unless (x, y) lies inside the image as signed
-  // 32-bit numbers, else 0.
+  // The palette depth of `info`, as `GetPaletteDepth` gives it.
+  static ZEL::u32 PaletteDepthOf(SInfoHeader const& info);
+
+  // ZEL_ERR_OUT_OF_RANGE unless (x, y) lies inside the image, both compared
+  // as signed 32-bit numbers; else 0.
   ZEL::u32 CheckInside(ZEL::u32 x, ZEL::u32 y) const;
 
-  // The true colour of the 24-bit pixel (x, y).
-  ZEL::u32 GetTrueColor(ZEL::u32 x, ZEL::u32 y, ZEL::t_WinRgbQuad& color);
+  // The stored row of image row `y`: rows run bottom-up for a positive height.
+  ZEL::u32 StoredRow(ZEL::u32 y) const;
+
+  // The colour of a palette entry, split as `ZEL::ToWinRgbQuad32Bit` splits
+  // it. Spelled out here so that a query calls nothing outside this header:
+  // a call anywhere in a caller's pixel loop would make the compiler reload
+  // the header fields for every pixel.
+  static ZEL::t_WinRgbQuad PaletteColor(ZEL::u32 entry);
 };
+
+// -----------------------------------------------------------------------------
+// The pixel queries
+// -----------------------------------------------------------------------------
+//
+// They are inline: a query is a few comparisons and one or three vector
+// accesses, which a call into the shared library would cost several times
+// over when a caller walks all the pixels of an image. Inlined into such a
+// loop, the tests on the header fields stay the same from pixel to pixel and
+// cost next to nothing.
+
+inline ZEL::u32 CZEL_WinBitmapData::PaletteDepthOf(SInfoHeader const& info) {
+  if (info.biClrUsed != 0) return info.biClrUsed & 0xFFFF;
+  switch (info.biBitCount) {
+    case 1:
+      return 2;
+    case 4:
+      return 16;
+    case 8:
+      return 256;
+    default:
+      return 0;
+  }
+}
+
+inline ZEL::u32 CZEL_WinBitmapData::CheckInside(ZEL::u32 x, ZEL::u32 y) const {
+  bool const outside =
+      static_cast<int>(y) >= m_Info.biHeight || static_cast<int>(x) >= m_Info.biWidth;
+  return outside ? ZEL_ERR_OUT_OF_RANGE : ZEL_ERR_NONE;
+}
+
+inline ZEL::u32 CZEL_WinBitmapData::StoredRow(ZEL::u32 y) const {
+  return m_Info.biHeight > 0 ? static_cast<ZEL::u32>(m_Info.biHeight) - y - 1 : y;
+}
+
+inline ZEL::t_WinRgbQuad CZEL_WinBitmapData::PaletteColor(ZEL::u32 entry) {
+  auto const byte = [entry](int shift) { return static_cast<ZEL::u16>((entry >> shift) & 0xFF); };
+  return ZEL::t_WinRgbQuad{byte(16), byte(8), byte(0), byte(24)};
+}
+
+inline ZEL::u32 CZEL_WinBitmapData::GetPixelColorIndexNoCheck(ZEL::u32 x, ZEL::u32 y,
+                                                              ZEL::u32& index) {
+  ZEL::u32 const row = StoredRow(y) * m_RowStride;
+  switch (m_Info.biBitCount) {
+    case 8:
+      index = m_Pixels[row + x];
+      return ZEL_ERR_NONE;
+    case 1:
+      // The leftmost pixel is the byte's top bit.
+      index = (m_Pixels[row + x / 8] >> (7 - x % 8)) & 1u;
+      return ZEL_ERR_NONE;
+    default:
+      return ZEL_ERR_NOT_SUPPORTED;
+  }
+}
+
+inline ZEL::u32 CZEL_WinBitmapData::GetPixelColorIndex(ZEL::u32 x, ZEL::u32 y, ZEL::u32& index) {
+  if (PaletteDepthOf(m_Info) == 0) return ZEL_ERR_NOT_READY;
+  ZEL::u32 const result = CheckInside(x, y);
+  if (result != ZEL_ERR_NONE) return result;
+  return GetPixelColorIndexNoCheck(x, y, index);
+}
+
+// A true-colour address is a byte offset computed in 32 bits, with the row in
+// units of 4 bytes. Only its first byte is tested against the length; when
+// the pixels end within the pixel, the bytes go in one by one, so that the
+// vector throws for the first one missing, after blue has been stored.
+inline ZEL::u32 CZEL_WinBitmapData::GetPixelColor(ZEL::u32 x, ZEL::u32 y,
+                                                  ZEL::t_WinRgbQuad& color) {
+  ZEL::u32 result = CheckInside(x, y);
+  if (result != ZEL_ERR_NONE) return result;
+  if (m_Info.biSize != kClassicHeaderSize) return ZEL_ERR_NOT_READY;
+  if (PaletteDepthOf(m_Info) != 0) {
+    ZEL::u32 colidx = 0;
+    result = GetPixelColorIndexNoCheck(x, y, colidx);
+    if (result != ZEL_ERR_NONE) return result;
+    color = PaletteColor(m_Palette[colidx]);
+    return ZEL_ERR_NONE;
+  }
+  if (m_Info.biBitCount != 24) return ZEL_ERR_NOT_SUPPORTED;
+  ZEL::u32 const address = x * 3 + (m_FirstPixelWord + StoredRow(y) * m_RowStride) * 4;
+  ZEL::u32 const length = m_Pixels.GetLength();
+  if (address >= length) return ZEL_ERR_OUT_OF_RANGE;
+  if (length - address < 3) {
+    color.blue = m_Pixels[address];
+    color.green = m_Pixels[address + 1];
+    color.red = m_Pixels[address + 2];
+  }
+  ZEL::u8 const* const pixel = m_Pixels.GetBuf() + address;
+  color = ZEL::t_WinRgbQuad{pixel[2], pixel[1], pixel[0], 0};
+  return ZEL_ERR_NONE;
+}
 
 #endif  // LZEL_CORE_IO_CZEL_WIN_BITMAP_DATA_H_
