@@ -132,13 +132,12 @@ CZEL_CsvFile::CZEL_CsvFile(u32 fieldCount, char separator, u32 lineEnd)
   if (fieldCount == 0) throw CZEL_Exception(ZEL_ERR_INVALID_ARGUMENT, nullptr, 0);
 }
 
+// The base's copy constructor shares the stream; the settings follow it.
 CZEL_CsvFile::CZEL_CsvFile(CZEL_CsvFile const& src)
-    : CZEL_File(),
+    : CZEL_File(src),
       m_FieldCount(src.m_FieldCount),
       m_Separator(src.m_Separator),
-      m_LineEnd(src.m_LineEnd) {
-  DataCopy(src);
-}
+      m_LineEnd(src.m_LineEnd) {}
 
 CZEL_CsvFile& CZEL_CsvFile::operator=(CZEL_CsvFile const& src) {
   DataCopy(src);
@@ -148,7 +147,7 @@ CZEL_CsvFile& CZEL_CsvFile::operator=(CZEL_CsvFile const& src) {
 CZEL_CsvFile::~CZEL_CsvFile() { Close(); }
 
 void CZEL_CsvFile::DataCopy(CZEL_CsvFile const& src) {
-  CZEL_File::operator=(src);
+  CZEL_File::DataCopy(src);
   m_FieldCount = src.m_FieldCount;
   m_Separator = src.m_Separator;
   m_LineEnd = src.m_LineEnd;
