@@ -7,4 +7,9 @@
 #ifndef LZEL_CORE_IO_ZEL_IO_H_
 #define LZEL_CORE_IO_ZEL_IO_H_
 
+#include <LZEL_Core/io/CZEL_File.h>
+
+#include <LZEL_Core/io/CZEL_CsvFile.h>
+#include <LZEL_Core/io/CZEL_WinBitmapData.h>
+
 #endif  // LZEL_CORE_IO_ZEL_IO_H_

@@ -1,0 +1,318 @@
+// 64-bit offsets in the stream calls also where `long` is 32 bits.
+#ifndef _FILE_OFFSET_BITS
+#define _FILE_OFFSET_BITS 64
+#endif
+
+#include <LZEL_Core/io/CZEL_File.h>
+
+#include <LZEL_Core/containers/CZEL_Uint8Vector.h>
+#include <LZEL_Core/frame/ZEL_Errors.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+using ZEL::u32;
+using ZEL::u64;
+using ZEL::u8;
+
+namespace {
+
+// The stream mode that the open flags select, or null for none.
+char const* ModeOf(u32 flags) {
+  bool const write = (flags & CZEL_File::FILE_OPEN_WRITE) != 0;
+  bool const read = (flags & CZEL_File::FILE_OPEN_READ) != 0;
+  bool const truncate = (flags & CZEL_File::FILE_OPEN_TRUNCATE) != 0;
+  if (write && read) return truncate ? "w+b" : "r+b";
+  if (write) return truncate ? "wb" : "ab";
+  return read ? "rb" : nullptr;
+}
+
+u64 Tell(std::FILE* stream) { return static_cast<u64>(ftello(stream)); }
+
+int Seek(std::FILE* stream, u64 offset, int whence) {
+  return fseeko(stream, static_cast<off_t>(offset), whence);
+}
+
+// The bytes of one text line: up to a line feed (consumed, not kept), up to
+// `length`, or up to `limit` characters, bytes 0 and 13 dropped. `position`
+// tells where the stream stands before each byte; each kept byte goes to
+// `keep(ch, count)`. Returns the number kept, or -1 when the line fails: at
+// `length` or at the limit with nothing kept, or on a read that delivers
+// nothing, whatever was kept before it.
+template <typename Position, typename Keep>
+std::int64_t ScanLine(std::FILE* stream, u64 length, u64 limit, Position position, Keep keep) {
+  u64 count = 0;
+  std::int64_t result = -1;
+  flockfile(stream);
+  for (;;) {
+    if (position() >= length || count >= limit) {
+      if (count != 0) result = static_cast<std::int64_t>(count);
+      break;
+    }
+    int const ch = getc_unlocked(stream);
+    if (ch == EOF) break;
+    if (ch == 0 || ch == 13) continue;
+    if (ch == 10) {
+      result = static_cast<std::int64_t>(count);
+      break;
+    }
+    keep(static_cast<char>(ch), count);
+    ++count;
+  }
+  funlockfile(stream);
+  return result;
+}
+
+// The index behind the last '/' of `path`, 0 if it has none.
+u32 CutBehindLastSeparator(CZEL_String const& path) {
+  char const* text = path.GetStringC();
+  char const* last = std::strrchr(text, '/');
+  return last == nullptr ? 0 : static_cast<u32>(last - text) + 1;
+}
+
+// `path` as text, up to its first 0 byte.
+std::string TextOf(CZEL_String const& path) { return std::string(path.GetStringC()); }
+
+}  // namespace
+
+CZEL_File::CZEL_File() : m_Stream(nullptr), m_OpenFlags(0) {}
+
+CZEL_File::CZEL_File(CZEL_File const& src) : CZEL_Object(), m_Stream(nullptr), m_OpenFlags(0) {
+  DataCopy(src);
+}
+
+CZEL_File& CZEL_File::operator=(CZEL_File const& src) {
+  DataCopy(src);
+  return *this;
+}
+
+CZEL_File::~CZEL_File() { Close(); }
+
+void CZEL_File::DataCopy(CZEL_File const& src) {
+  m_Stream = src.m_Stream;
+  m_OpenFlags = src.m_OpenFlags;
+  m_Path = src.m_Path;
+}
+
+u32 CZEL_File::Open(CZEL_String const& path, u32 flags) {
+  char const* mode = ModeOf(flags);
+  if (mode == nullptr) return ZEL_ERR_OPEN_FAILED;
+  std::FILE* stream = std::fopen(path.GetStringC(), mode);
+  if (stream == nullptr) return ZEL_ERR_OPEN_FAILED;
+  m_OpenFlags = flags;
+  m_Stream = stream;
+  ToStart();
+  m_Path = path;
+  return ZEL_ERR_NONE;
+}
+
+void CZEL_File::Close() {
+  if (m_Stream != nullptr) {
+    std::fflush(m_Stream);
+    std::fclose(m_Stream);
+    m_Stream = nullptr;
+  }
+  m_OpenFlags = 0;
+}
+
+u8 CZEL_File::IsOpen() const { return m_Stream != nullptr ? 1 : 0; }
+
+u32 CZEL_File::GetOpenFlags() const { return m_OpenFlags; }
+
+u32 CZEL_File::Read(void* data, u64 count) {
+  if (m_Stream == nullptr) return ZEL_ERR_FILE_NOT_OPEN;
+  u64 const got = std::fread(data, 1, static_cast<u32>(count), m_Stream);
+  return got < count ? ZEL_ERR_IO : ZEL_ERR_NONE;
+}
+
+u32 CZEL_File::Write(void* data, u64 count, u8 flush) {
+  if (m_Stream == nullptr) return ZEL_ERR_FILE_NOT_OPEN;
+  u64 const put = std::fwrite(data, 1, static_cast<u32>(count), m_Stream);
+  if (put != count) return ZEL_ERR_IO;
+  if (flush != 0) Flush();
+  return ZEL_ERR_NONE;
+}
+
+u32 CZEL_File::Flush() {
+  if (m_Stream == nullptr) return ZEL_ERR_FILE_NOT_OPEN;
+  return std::fflush(m_Stream) == EOF ? ZEL_ERR_FILE_NOT_OPEN : ZEL_ERR_NONE;
+}
+
+// The seek reports failure as -1, which is not above 0: a refused seek is a
+// success here, as it always has been for callers of `To`.
+u32 CZEL_File::To(u64 offset, u32 origin) {
+  if (m_Stream == nullptr) return ZEL_ERR_FILE_NOT_OPEN;
+  static int const kWhence[] = {SEEK_CUR, SEEK_SET, SEEK_END};
+  if (origin > FILE_FROM_END) return ZEL_ERR_INVALID_ARGUMENT;
+  return Seek(m_Stream, offset, kWhence[origin]) > 0 ? ZEL_ERR_IO : ZEL_ERR_NONE;
+}
+
+u32 CZEL_File::ToStart() { return To(0, FILE_FROM_START); }
+
+u32 CZEL_File::ToEnd() { return To(0, FILE_FROM_END); }
+
+u64 CZEL_File::GetPos() const { return m_Stream != nullptr ? Tell(m_Stream) : 0; }
+
+// A stream opened for reading alone holds no pending bytes, so the size that
+// the system records is where the end lies. A stream at its end-of-file mark
+// is still moved, since the seek is what clears that mark for the next read.
+bool CZEL_File::HasStableSize() const {
+  return (m_OpenFlags & FILE_OPEN_WRITE) == 0 && std::feof(m_Stream) == 0;
+}
+
+u64 CZEL_File::GetLength() const {
+  if (m_Stream == nullptr) return 0;
+  struct stat status {};
+  if (HasStableSize() && fstat(fileno(m_Stream), &status) == 0 && S_ISREG(status.st_mode)) {
+    return static_cast<u64>(status.st_size);
+  }
+  u64 const here = Tell(m_Stream);
+  Seek(m_Stream, 0, SEEK_END);
+  u64 const end = Tell(m_Stream);
+  Seek(m_Stream, here, SEEK_SET);
+  return end;
+}
+
+u8 CZEL_File::IsEOF() const { return GetPos() >= GetLength() ? 1 : 0; }
+
+// A stream read alone moves one byte per byte read, so its position is
+// counted instead of asked for; a stream open for writing is asked each time.
+u32 CZEL_File::ReadTextLine(char* text, u32 maxChars) {
+  u64 const length = GetLength();
+  if (length == 0) return ZEL_ERR_IO;
+  u64 at = GetPos();
+  bool const counted = HasStableSize();
+  auto position = [&] { return counted ? at++ : GetPos(); };
+  std::int64_t const count =
+      ScanLine(m_Stream, length, maxChars, position, [text](char ch, u64 i) { text[i] = ch; });
+  if (count < 0) return ZEL_ERR_IO;
+  text[count] = 0;
+  return ZEL_ERR_NONE;
+}
+
+u32 CZEL_File::ReadTextLine(CZEL_String& text) {
+  u64 const length = GetLength();
+  if (length == 0) return ZEL_ERR_READ_DENIED;
+  u64 at = GetPos();
+  bool const counted = HasStableSize();
+  auto position = [&] { return counted ? at++ : GetPos(); };
+  std::string line;
+  std::int64_t const count = ScanLine(m_Stream, length, UINT64_MAX, position,
+                                      [&line](char ch, u64) { line.push_back(ch); });
+  if (count >= 0) {
+    text = CZEL_String(line.data(), static_cast<u32>(line.size()));
+    return ZEL_ERR_NONE;
+  }
+  if (!line.empty()) {
+    // The line grows in steps of 100 characters, the first step taken on the
+    // old text; what the failed read left is that text with the line on top.
+    auto const kept = static_cast<u32>(line.size());
+    text.SetLength(100, ' ');
+    text.SetLength((kept + 99) / 100 * 100, ' ');
+    std::memcpy(text.GetStringC(), line.data(), kept);
+  }
+  return ZEL_ERR_READ_DENIED;
+}
+
+u32 CZEL_File::WriteText(char const* text) {
+  u64 const length = std::strlen(text);
+  if (length == 0) return ZEL_ERR_NONE;
+  return Write(const_cast<char*>(text), length, 1);
+}
+
+u32 CZEL_File::WriteText(CZEL_String const& text) { return WriteText(text.GetStringC()); }
+
+u32 CZEL_File::WriteTextLine(char const* text, u32 lineEnd) {
+  u32 result = WriteText(text);
+  if (result != ZEL_ERR_NONE) return result;
+  static struct {
+    u32 bit;
+    char byte;
+  } const kEnds[] = {{LINE_END_NUL, 0}, {LINE_END_CR, 13}, {LINE_END_LF, 10}};
+  for (auto const& end : kEnds) {
+    if ((lineEnd & end.bit) == 0) continue;
+    char byte = end.byte;
+    result = Write(&byte, 1, 1);
+    if (result != ZEL_ERR_NONE) return result;
+  }
+  return ZEL_ERR_NONE;
+}
+
+u32 CZEL_File::WriteTextLine(CZEL_String const& text, u32 lineEnd) {
+  return WriteTextLine(text.GetStringC(), lineEnd);
+}
+
+u32 CZEL_File::CopyFile(CZEL_String const& destination, CZEL_String const& source, u32 blockSize) {
+  CZEL_File fsrc;
+  u32 result = fsrc.Open(source, FILE_OPEN_READ);
+  if (result != ZEL_ERR_NONE) return result;
+  CZEL_File fdst;
+  result = fdst.Open(destination, FILE_OPEN_WRITE | FILE_OPEN_TRUNCATE);
+  if (result != ZEL_ERR_NONE) return result;
+  CZEL_Uint8Vector ucvBuf(blockSize);
+  for (u64 remaining = fsrc.GetLength(); remaining > 0;) {
+    u64 const n = std::min<u64>(remaining, blockSize);
+    if (fsrc.Read(ucvBuf.GetBuf(), n) != ZEL_ERR_NONE) return ZEL_ERR_IO;
+    if (fdst.Write(ucvBuf.GetBuf(), n, 1) != ZEL_ERR_NONE) return ZEL_ERR_IO;
+    remaining -= n;
+  }
+  return ZEL_ERR_NONE;
+}
+
+u32 CZEL_File::DeleteFile(CZEL_String const& path) {
+  return unlink(path.GetStringC()) == 0 ? ZEL_ERR_NONE : ZEL_ERR_IO;
+}
+
+u8 CZEL_File::IsPresent(CZEL_String const& path) {
+  struct stat status {};
+  return stat(path.GetStringC(), &status) == 0 ? 1 : 0;
+}
+
+CZEL_String CZEL_File::GetFullPathFromPath(CZEL_String const& path) {
+  std::string text = TextOf(path);
+  if (text.empty()) return CZEL_String();
+  if (text[0] != '/') {
+    std::vector<char> cwd(4096);
+    if (getcwd(cwd.data(), cwd.size()) == nullptr) return CZEL_String();
+    text = std::string(cwd.data()) + '/' + text;
+  }
+  std::vector<std::string> parts;
+  for (std::size_t start = 0; start <= text.size();) {
+    std::size_t end = text.find('/', start);
+    if (end == std::string::npos) end = text.size();
+    std::string part = text.substr(start, end - start);
+    if (part == "..") {
+      if (!parts.empty()) parts.pop_back();
+    } else if (!part.empty() && part != ".") {
+      parts.push_back(std::move(part));
+    }
+    start = end + 1;
+  }
+  std::string full;
+  for (auto const& part : parts) full += '/' + part;
+  if (full.empty() || text.back() == '/') full += '/';
+  return CZEL_String(full.data(), static_cast<u32>(full.size()));
+}
+
+CZEL_String CZEL_File::GetNameFromPath(CZEL_String const& path) {
+  CZEL_String const sFullPath = GetFullPathFromPath(path);
+  return sFullPath.RightFromPos(CutBehindLastSeparator(sFullPath));
+}
+
+CZEL_String CZEL_File::GetPathFromPath(CZEL_String const& path) {
+  CZEL_String const sFullPath = GetFullPathFromPath(path);
+  return sFullPath.Left(CutBehindLastSeparator(sFullPath));
+}
+
+CZEL_String CZEL_File::GetFullPath() const { return GetFullPathFromPath(m_Path); }
+
+CZEL_String CZEL_File::GetName() const { return GetNameFromPath(m_Path); }
+
+CZEL_String CZEL_File::GetPath() const { return GetPathFromPath(m_Path); }
