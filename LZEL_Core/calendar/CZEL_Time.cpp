@@ -140,11 +140,14 @@ CZEL_Time CZEL_Time::AddSeconds(int seconds) const {
   return AddMilliseconds(seconds % 86400 * 1000);
 }
 
+// The interface takes `other` by value in both differences.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 int CZEL_Time::MillisecondsTo(CZEL_Time other) const {
   if (IsNull() || other.IsNull()) return 0;
   return other.m_Msecs - m_Msecs;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 int CZEL_Time::SecondsTo(CZEL_Time other) const { return MillisecondsTo(other) / 1000; }
 
 // -----------------------------------------------------------------------------

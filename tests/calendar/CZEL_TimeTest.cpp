@@ -28,8 +28,8 @@ std::tuple<int, int, int, int> Parts(T const& t) {
 std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
 
 TEST(TimeTest, SetAndParts) {
-  for (auto bad : {T(24, 0, 0, 0), T(0, 60, 0, 0), T(0, 0, 60, 0), T(0, 0, 0, 1000), T(-1, 0, 0, 0),
-                   T(0, -1, 0, 0), T(0, 0, -1, 0), T(0, 0, 0, -1)}) {
+  for (auto const& bad : {T(24, 0, 0, 0), T(0, 60, 0, 0), T(0, 0, 60, 0), T(0, 0, 0, 1000),
+                          T(-1, 0, 0, 0), T(0, -1, 0, 0), T(0, 0, -1, 0), T(0, 0, 0, -1)}) {
     EXPECT_TRUE(bad.IsNull());
     EXPECT_EQ(MsecsOf(bad), -1);
     EXPECT_EQ(Parts(bad), std::make_tuple(-1, -1, -1, -1));
