@@ -142,9 +142,11 @@ int DaysInMonth(int month, int year, Calendar calendar) {
   }
 }
 
+// Every month of a known calendar has 28 days at least, so only a later day
+// needs the month's length, and with it the leap-year rule.
 bool DateExists(int year, int month, int day, Calendar calendar) {
-  // `DaysInMonth` is 0 for year 0 and for an unknown calendar.
-  return day >= 1 && day <= DaysInMonth(month, year, calendar);
+  if (!IsKnown(calendar) || year == 0 || month < 1 || month > 12 || day < 1) return false;
+  return day <= 28 || day <= DaysInMonth(month, year, calendar);
 }
 
 // The Gregorian conversions. Their divisions round toward minus infinity;
@@ -161,7 +163,8 @@ i64 GregorianDayNumber(i64 y1, int month, int day) {
   i64 const y = y1 + 4800 - a;
   auto const m = static_cast<u32>(month + 12 * a - 3);
   auto const shifted = static_cast<u64>(y + 400 * kShiftEras);
-  auto const leapDays = static_cast<i64>(shifted / 4 - shifted / 100 + shifted / 400);
+  u64 const centuries = shifted / 100;
+  auto const leapDays = static_cast<i64>(shifted / 4 - centuries + centuries / 4);
   return day + (153 * m + 2) / 5 + 365 * y + leapDays - 97 * kShiftEras - 32045;
 }
 
