@@ -159,7 +159,7 @@ constexpr i64 kEraDays = 146097;
 // The day number of a Gregorian date, `y1` being its year with the gap
 // closed.
 i64 GregorianDayNumber(i64 y1, int month, int day) {
-  int const a = (14 - month) / 12;
+  int const a = month <= 2 ? 1 : 0;  // (14 - month) / 12 for a month of 1 to 12.
   i64 const y = y1 + 4800 - a;
   auto const m = static_cast<u32>(month + 12 * a - 3);
   auto const shifted = static_cast<u64>(y + 400 * kShiftEras);
@@ -167,6 +167,22 @@ i64 GregorianDayNumber(i64 y1, int month, int day) {
   auto const leapDays = static_cast<i64>(shifted / 4 - centuries + centuries / 4);
   return day + (153 * m + 2) / 5 + 365 * y + leapDays - 97 * kShiftEras - 32045;
 }
+
+// The month from March (0 to 11) and the day of each day of a year that
+// begins on 1 March, as (5 * e + 2) / 153 and e - (153 * m + 2) / 5 + 1
+// give them, so that a reading needs one look-up instead of two divisions.
+struct SMarchYear {
+  u16 entries[366];
+};
+constexpr SMarchYear MakeMarchYear() {
+  SMarchYear year{};
+  for (u32 e = 0; e < 366; ++e) {
+    u32 const m = (5 * e + 2) / 153;
+    year.entries[e] = static_cast<u16>(m << 8 | (e - (153 * m + 2) / 5 + 1));
+  }
+  return year;
+}
+constexpr SMarchYear kMarchYear = MakeMarchYear();
 
 // Fills the day and month of `date` from the valid day number `j` and
 // returns the computed year.
@@ -176,10 +192,12 @@ i64 ReadGregorian(i64 j, DateStruct& date) {
   auto const c = static_cast<u32>(a - kEraDays * b / 4);
   u32 const d = (4 * c + 3) / 1461;
   u32 const e = c - 1461 * d / 4;
-  u32 const m = (5 * e + 2) / 153;
-  date.day = static_cast<int>(e - (153 * m + 2) / 5 + 1);
-  date.month = static_cast<int>(m + 3 - 12 * (m / 10));
-  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + m / 10;
+  auto const entry = kMarchYear.entries[e];
+  u32 const m = entry >> 8;
+  date.day = entry & 0xFF;
+  u32 const next = m >= 10 ? 1 : 0;  // m / 10: January and February end the year.
+  date.month = static_cast<int>(m + 3 - 12 * next);
+  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + next;
 }
 
 // The day number of a date, or the null value if it doesn't exist.
