@@ -292,19 +292,18 @@ void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
 }
 
 // The text of a `ToString` field of `date`, or -1 for a character that
-// names none.
+// names none. %D and %M pad with zeros to two digits; %y keeps the last two
+// digits of the year without its sign.
 int ExpandDateField(char field, CZEL_Date::t_Date_Struct const& date, char* text) {
   switch (field) {
     case 'd':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.day);
     case 'D':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", date.day);
+      return ZEL::FormatFieldNumber(date.day, field == 'D' ? 2 : 0, text);
     case 'm':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.month);
     case 'M':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", date.month);
+      return ZEL::FormatFieldNumber(date.month, field == 'M' ? 2 : 0, text);
     case 'Y':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.year);
+      return ZEL::FormatFieldNumber(date.year, 0, text);
     case 'y': {
       long long const magnitude = date.year < 0 ? -static_cast<long long>(date.year) : date.year;
       int const length = std::snprintf(text, ZEL::kFieldTextSize, "%lld", magnitude);
