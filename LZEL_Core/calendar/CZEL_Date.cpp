@@ -30,10 +30,17 @@ constexpr i64 kPersianCycleDays = 1029983;
 constexpr i64 kPersianCycleYears = 2820;
 constexpr i64 kPersianEpochDay = 2121446;
 
-// Division rounding toward minus infinity, for a positive divisor `b`, and
-// the remainder that goes with it, never negative.
-constexpr i64 Div(i64 a, i64 b) { return a / b - (a % b < 0 ? 1 : 0); }
-constexpr i64 Mod(i64 a, i64 b) { return a % b + (a % b < 0 ? b : 0); }
+// Division rounding toward minus infinity, for a positive divisor `b` and a
+// dividend below 2^62 either way (every one here is far smaller), and the
+// remainder that goes with it, never negative. Adding a multiple of `b` that
+// makes the dividend positive lets plain unsigned division do the rounding.
+constexpr i64 DivBias(i64 b) { return ((i64{1} << 62) / b + 1) * b; }
+constexpr i64 Div(i64 a, i64 b) {
+  return static_cast<i64>(static_cast<u64>(a + DivBias(b)) / static_cast<u64>(b)) - DivBias(b) / b;
+}
+constexpr i64 Mod(i64 a, i64 b) {
+  return static_cast<i64>(static_cast<u64>(a + DivBias(b)) % static_cast<u64>(b));
+}
 
 // The low 32 bits of `value` as a signed int: what the same sum or product
 // gives in wrapping 32-bit arithmetic.
