@@ -30,10 +30,17 @@ constexpr i64 kPersianCycleDays = 1029983;
 constexpr i64 kPersianCycleYears = 2820;
 constexpr i64 kPersianEpochDay = 2121446;
 
-// Division rounding toward minus infinity, for a positive divisor `b`, and
-// the remainder that goes with it, never negative.
-constexpr i64 Div(i64 a, i64 b) { return a / b - (a % b < 0 ? 1 : 0); }
-constexpr i64 Mod(i64 a, i64 b) { return a % b + (a % b < 0 ? b : 0); }
+// Division rounding toward minus infinity, for a positive divisor `b` and a
+// dividend below 2^62 either way (every one here is far smaller), and the
+// remainder that goes with it, never negative. Adding a multiple of `b` that
+// makes the dividend positive lets plain unsigned division do the rounding.
+constexpr i64 DivBias(i64 b) { return ((i64{1} << 62) / b + 1) * b; }
+constexpr i64 Div(i64 a, i64 b) {
+  return static_cast<i64>(static_cast<u64>(a + DivBias(b)) / static_cast<u64>(b)) - DivBias(b) / b;
+}
+constexpr i64 Mod(i64 a, i64 b) {
+  return static_cast<i64>(static_cast<u64>(a + DivBias(b)) % static_cast<u64>(b));
+}
 
 // The low 32 bits of `value` as a signed int: what the same sum or product
 // gives in wrapping 32-bit arithmetic.
@@ -142,9 +149,11 @@ int DaysInMonth(int month, int year, Calendar calendar) {
   }
 }
 
+// Every month of a known calendar has 28 days at least, so only a later day
+// needs the month's length, and with it the leap-year rule.
 bool DateExists(int year, int month, int day, Calendar calendar) {
-  // `DaysInMonth` is 0 for year 0 and for an unknown calendar.
-  return day >= 1 && day <= DaysInMonth(month, year, calendar);
+  if (!IsKnown(calendar) || year == 0 || month < 1 || month > 12 || day < 1) return false;
+  return day <= 28 || day <= DaysInMonth(month, year, calendar);
 }
 
 // The Gregorian conversions. Their divisions round toward minus infinity;
@@ -157,13 +166,30 @@ constexpr i64 kEraDays = 146097;
 // The day number of a Gregorian date, `y1` being its year with the gap
 // closed.
 i64 GregorianDayNumber(i64 y1, int month, int day) {
-  int const a = (14 - month) / 12;
+  int const a = month <= 2 ? 1 : 0;  // (14 - month) / 12 for a month of 1 to 12.
   i64 const y = y1 + 4800 - a;
   auto const m = static_cast<u32>(month + 12 * a - 3);
   auto const shifted = static_cast<u64>(y + 400 * kShiftEras);
-  auto const leapDays = static_cast<i64>(shifted / 4 - shifted / 100 + shifted / 400);
+  u64 const centuries = shifted / 100;
+  auto const leapDays = static_cast<i64>(shifted / 4 - centuries + centuries / 4);
   return day + (153 * m + 2) / 5 + 365 * y + leapDays - 97 * kShiftEras - 32045;
 }
+
+// The month from March (0 to 11) and the day of each day of a year that
+// begins on 1 March, as (5 * e + 2) / 153 and e - (153 * m + 2) / 5 + 1
+// give them, so that a reading needs one look-up instead of two divisions.
+struct SMarchYear {
+  u16 entries[366];
+};
+constexpr SMarchYear MakeMarchYear() {
+  SMarchYear year{};
+  for (u32 e = 0; e < 366; ++e) {
+    u32 const m = (5 * e + 2) / 153;
+    year.entries[e] = static_cast<u16>(m << 8 | (e - (153 * m + 2) / 5 + 1));
+  }
+  return year;
+}
+constexpr SMarchYear kMarchYear = MakeMarchYear();
 
 // Fills the day and month of `date` from the valid day number `j` and
 // returns the computed year.
@@ -173,10 +199,12 @@ i64 ReadGregorian(i64 j, DateStruct& date) {
   auto const c = static_cast<u32>(a - kEraDays * b / 4);
   u32 const d = (4 * c + 3) / 1461;
   u32 const e = c - 1461 * d / 4;
-  u32 const m = (5 * e + 2) / 153;
-  date.day = static_cast<int>(e - (153 * m + 2) / 5 + 1);
-  date.month = static_cast<int>(m + 3 - 12 * (m / 10));
-  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + m / 10;
+  auto const entry = kMarchYear.entries[e];
+  u32 const m = entry >> 8;
+  date.day = entry & 0xFF;
+  u32 const next = m >= 10 ? 1 : 0;  // m / 10: January and February end the year.
+  date.month = static_cast<int>(m + 3 - 12 * next);
+  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + next;
 }
 
 // The day number of a date, or the null value if it doesn't exist.
@@ -271,19 +299,18 @@ void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
 }
 
 // The text of a `ToString` field of `date`, or -1 for a character that
-// names none.
+// names none. %D and %M pad with zeros to two digits; %y keeps the last two
+// digits of the year without its sign.
 int ExpandDateField(char field, CZEL_Date::t_Date_Struct const& date, char* text) {
   switch (field) {
     case 'd':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.day);
     case 'D':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", date.day);
+      return ZEL::FormatFieldNumber(date.day, field == 'D' ? 2 : 0, text);
     case 'm':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.month);
     case 'M':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", date.month);
+      return ZEL::FormatFieldNumber(date.month, field == 'M' ? 2 : 0, text);
     case 'Y':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.year);
+      return ZEL::FormatFieldNumber(date.year, 0, text);
     case 'y': {
       long long const magnitude = date.year < 0 ? -static_cast<long long>(date.year) : date.year;
       int const length = std::snprintf(text, ZEL::kFieldTextSize, "%lld", magnitude);

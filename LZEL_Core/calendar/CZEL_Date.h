@@ -37,7 +37,7 @@
 // Revised Julian, Persian and Islamic conversions do some of their products
 // in wrapping 32-bit arithmetic, so that far from the present their years no
 // longer round-trip. Within 600000 years of year 1 (the Islamic calendar:
-// 190000 years) every conversion round-trips.
+// 190000 years) every other conversion round-trips.
 
 #ifndef LZEL_CORE_CALENDAR_CZEL_DATE_H_
 #define LZEL_CORE_CALENDAR_CZEL_DATE_H_

@@ -3,8 +3,6 @@
 #include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
-#include <cstdio>
-
 using ZEL::i64;
 using ZEL::u16;
 using ZEL::u32;
@@ -16,28 +14,32 @@ constexpr int kNullTime = -1;
 constexpr int kMsecsPerDay = 86400000;
 
 // The text of a `ToString` field of `time`, or -1 for a character that
-// names none.
+// names none. The upper-case letter of a field pads with zeros: to three
+// digits for the millisecond, to two for the others.
 int ExpandTimeField(char field, CZEL_Time::t_Date_Struct const& time, char* text) {
+  int value = 0;
   switch (field) {
     case 'h':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", time.hour);
     case 'H':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", time.hour);
+      value = time.hour;
+      break;
     case 't':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", time.minute);
     case 'T':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", time.minute);
+      value = time.minute;
+      break;
     case 's':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", time.second);
     case 'S':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", time.second);
+      value = time.second;
+      break;
     case 'x':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%d", time.millisecond);
     case 'X':
-      return std::snprintf(text, ZEL::kFieldTextSize, "%03d", time.millisecond);
+      value = time.millisecond;
+      break;
     default:
       return -1;
   }
+  int const width = field == 'X' ? 3 : field >= 'A' && field <= 'Z' ? 2 : 0;
+  return ZEL::FormatFieldNumber(value, width, text);
 }
 
 }  // namespace
@@ -140,11 +142,14 @@ CZEL_Time CZEL_Time::AddSeconds(int seconds) const {
   return AddMilliseconds(seconds % 86400 * 1000);
 }
 
+// The interface takes `other` by value in both differences.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 int CZEL_Time::MillisecondsTo(CZEL_Time other) const {
   if (IsNull() || other.IsNull()) return 0;
   return other.m_Msecs - m_Msecs;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 int CZEL_Time::SecondsTo(CZEL_Time other) const { return MillisecondsTo(other) / 1000; }
 
 // -----------------------------------------------------------------------------

@@ -13,6 +13,7 @@
 #include <LZEL_Core/frame/ZEL_Types.h>
 #include <LZEL_Core/text/CZEL_String.h>
 
+#include <cstdio>
 #include <string>
 
 namespace ZEL {
@@ -34,6 +35,12 @@ t_LocalClock ReadLocalClock();
 
 // The room a field expansion may fill: any int in decimal with its sign.
 constexpr int kFieldTextSize = 24;
+
+// Writes `value` in decimal into `text` (kFieldTextSize bytes), with zeros
+// in front up to `width` digits as "%0*d" gives them, and returns the length.
+inline int FormatFieldNumber(int value, int width, char* text) {
+  return std::snprintf(text, kFieldTextSize, "%0*d", width, value);
+}
 
 // `format` with its `%` fields expanded. `expand(field, text)` writes the
 // expansion of the field character `field` into `text` (kFieldTextSize bytes)
