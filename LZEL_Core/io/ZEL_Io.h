@@ -7,6 +7,10 @@
 #ifndef LZEL_CORE_IO_ZEL_IO_H_
 #define LZEL_CORE_IO_ZEL_IO_H_
 
+#include <LZEL_Core/io/CZEL_Buffer.h>
 #include <LZEL_Core/io/CZEL_File.h>
+#include <LZEL_Core/io/CZEL_FileBuffer.h>
+#include <LZEL_Core/io/CZEL_MemoryBuffer.h>
+#include <LZEL_Core/io/ZEL_StreamForms.h>
 
 #endif  // LZEL_CORE_IO_ZEL_IO_H_

@@ -18,6 +18,18 @@
 
 #include "../containers/ContainerTestSupport.h"
 
+// Runs `statement`, which must throw a CZEL_Exception with `code`, whatever
+// its object: for the failures of an object inside the one under test.
+#define EXPECT_ZEL_CODE(statement, code)                 \
+  do {                                                   \
+    try {                                                \
+      statement;                                         \
+      ADD_FAILURE() << "no exception from " #statement;  \
+    } catch (CZEL_Exception const& e) {                  \
+      EXPECT_EQ(e.m_Code, ZEL::u32(code)) << #statement; \
+    }                                                    \
+  } while (0)
+
 namespace zel_test {
 
 using Bytes = std::vector<unsigned char>;
