@@ -7,4 +7,6 @@
 #ifndef LZEL_CORE_NET_ZEL_NET_H_
 #define LZEL_CORE_NET_ZEL_NET_H_
 
+#include <LZEL_Core/net/CZEL_IpAddress.h>
+
 #endif  // LZEL_CORE_NET_ZEL_NET_H_

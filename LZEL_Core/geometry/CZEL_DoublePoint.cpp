@@ -1,0 +1,3 @@
+#include <LZEL_Core/geometry/CZEL_DoublePoint.h>
+
+ZEL_NAMED_PAIR_DEFINITIONS(CZEL_DoublePoint, CZEL_Point<double>, double)

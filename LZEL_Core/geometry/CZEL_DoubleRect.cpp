@@ -1,0 +1,3 @@
+#include <LZEL_Core/geometry/CZEL_DoubleRect.h>
+
+ZEL_NAMED_RECT_DEFINITIONS(CZEL_DoubleRect, double)

@@ -1,0 +1,3 @@
+#include <LZEL_Core/geometry/CZEL_Int32Size.h>
+
+ZEL_NAMED_PAIR_DEFINITIONS(CZEL_Int32Size, CZEL_Size<int>, int)
