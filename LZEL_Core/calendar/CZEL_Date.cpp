@@ -1,0 +1,448 @@
+#include <LZEL_Core/calendar/CZEL_Date.h>
+
+#include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
+#include <LZEL_Core/frame/ZEL_Errors.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+
+using ZEL::i64;
+using ZEL::u16;
+using ZEL::u32;
+using ZEL::u8;
+
+namespace {
+
+constexpr i64 kNullDay = INT64_MIN;
+constexpr i64 kFirstValidDay = -784350574879;  // 1 January -2147483648, Gregorian.
+constexpr i64 kLastValidDay = 784354017364;    // 31 December 2147483647, Gregorian.
+
+// Every year that a known calendar has, has twelve months.
+constexpr i64 kMonthsPerYear = 12;
+
+// The Persian arithmetic calendar: 1029983 days in a cycle of 2820 years,
+// whose year `rest` 0 is year 475 and starts on day 2121446.
+constexpr i64 kPersianCycleDays = 1029983;
+constexpr i64 kPersianCycleYears = 2820;
+constexpr i64 kPersianEpochDay = 2121446;
+
+// Division rounding toward minus infinity, for a positive divisor `b`, and
+// the remainder that goes with it, never negative.
+constexpr i64 Div(i64 a, i64 b) { return a / b - (a % b < 0 ? 1 : 0); }
+constexpr i64 Mod(i64 a, i64 b) { return a % b + (a % b < 0 ? b : 0); }
+
+// The low 32 bits of `value` as a signed int: what the same sum or product
+// gives in wrapping 32-bit arithmetic.
+constexpr int Low32(i64 value) { return static_cast<int>(static_cast<u32>(value)); }
+
+// The year with the gap closed: year + 1 for a year before year 1, so that
+// year -1 is 0.
+constexpr i64 ClosedYear(i64 year) { return year < 1 ? year + 1 : year; }
+
+// The year that a conversion stores from its computed year `y`: `y` above 0,
+// `y` - 1 otherwise, so that 0 becomes -1.
+constexpr int StoredYear(i64 y) { return Low32(y > 0 ? y : y - 1); }
+
+// The start of a Persian year, `rest` years (0 to 2819) into cycle `cycle`:
+// floor(rest * 365.2421985815603) + 1029983 * cycle + 2121446. The integer
+// form gives the same floor for every `rest` of a cycle, since
+// rest * 1029983 / 2820 is never within 1 / 2820 of a whole number unless it
+// is one, far beyond the error of the double product.
+constexpr i64 PersianYearStart(i64 rest, i64 cycle) {
+  return rest * kPersianCycleDays / kPersianCycleYears + kPersianCycleDays * cycle +
+         kPersianEpochDay;
+}
+
+// The days of the Persian months before `month`: 31 for months 1 to 6, 30 for
+// 7 to 11.
+constexpr int PersianDaysBeforeMonth(int month) {
+  return month <= 7 ? 31 * (month - 1) : 186 + 30 * (month - 7);
+}
+
+// The months as one count without a gap: with no year 0, year 1 begins at 0
+// and year -1 ends at -1.
+i64 MonthIndex(i64 year, i64 month, CZEL_Date::t_Calendar calendar) {
+  i64 const years = year >= 1 || CZEL_Date::CalendarHasYearZero(calendar) ? year - 1 : year;
+  return years * kMonthsPerYear + month - 1;
+}
+
+// The year of a month count of `MonthIndex`.
+i64 YearOfMonthIndex(i64 index, CZEL_Date::t_Calendar calendar) {
+  i64 const years = Div(index, kMonthsPerYear);
+  return years >= 0 || CZEL_Date::CalendarHasYearZero(calendar) ? years + 1 : years;
+}
+
+// The text of a `ToString` field of `date`, or -1 for a character that
+// names none.
+int ExpandDateField(char field, CZEL_Date::t_Date_Struct const& date, char* text) {
+  switch (field) {
+    case 'd':
+      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.day);
+    case 'D':
+      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", date.day);
+    case 'm':
+      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.month);
+    case 'M':
+      return std::snprintf(text, ZEL::kFieldTextSize, "%02d", date.month);
+    case 'Y':
+      return std::snprintf(text, ZEL::kFieldTextSize, "%d", date.year);
+    case 'y': {
+      long long const magnitude = date.year < 0 ? -static_cast<long long>(date.year) : date.year;
+      int const length = std::snprintf(text, ZEL::kFieldTextSize, "%lld", magnitude);
+      if (length <= 2) return length;
+      std::memmove(text, text + length - 2, 3);
+      return 2;
+    }
+    default:
+      return -1;
+  }
+}
+
+}  // namespace
+
+// -----------------------------------------------------------------------------
+// Construction and setting
+// -----------------------------------------------------------------------------
+
+CZEL_Date::CZEL_Date() : m_JulianDay(kNullDay) {}
+
+CZEL_Date::CZEL_Date(int year, int month, int day, t_Calendar calendar) : m_JulianDay(kNullDay) {
+  Set(year, month, day, calendar);
+}
+
+CZEL_Date::CZEL_Date(CZEL_Date const& src) : CZEL_Object(src), m_JulianDay(kNullDay) {
+  DataCopy(src);
+}
+
+CZEL_Date::CZEL_Date(i64 julianDay) : m_JulianDay(julianDay) {}
+
+CZEL_Date::~CZEL_Date() = default;
+
+CZEL_Date& CZEL_Date::operator=(CZEL_Date const& src) {
+  DataCopy(src);
+  return *this;
+}
+
+void CZEL_Date::DataCopy(CZEL_Date const& src) { m_JulianDay = src.m_JulianDay; }
+
+// `DateToJulianDay` gives the null value exactly when the date doesn't
+// exist, so one call both tests and converts.
+u32 CZEL_Date::Set(int year, int month, int day, t_Calendar calendar) {
+  m_JulianDay = DateToJulianDay(year, month, day, calendar);
+  return IsValid();
+}
+
+CZEL_Date CZEL_Date::CreateFromJulianDay(i64 julianDay) {
+  return julianDay >= kFirstValidDay && julianDay <= kLastValidDay ? CZEL_Date(julianDay)
+                                                                   : CZEL_Date();
+}
+
+CZEL_Date CZEL_Date::GetCurrentDate() {
+  ZEL::t_LocalClock const now = ZEL::ReadLocalClock();
+  return CZEL_Date(now.year, now.month, now.day, Calendar_Gregorian);
+}
+
+CZEL_Date& CZEL_Date::FromCurrentDate() { return *this = GetCurrentDate(); }
+
+// -----------------------------------------------------------------------------
+// Reading
+// -----------------------------------------------------------------------------
+
+u32 CZEL_Date::GetDateStruct(t_Date_Struct& date, t_Calendar calendar) const {
+  if (IsNull()) return ZEL_ERR_FAILED;
+  if (calendar > Calendar_Islamic) return ZEL_ERR_INVALID_ARGUMENT;
+  FillDateStruct(m_JulianDay, calendar, date);
+  return ZEL_ERR_NONE;
+}
+
+void CZEL_Date::FillDateStruct(i64 julianDay, t_Calendar calendar, t_Date_Struct& date) {
+  i64 const j = julianDay;
+  i64 year = 0;
+  switch (calendar) {
+    case Calendar_Gregorian: {
+      i64 const a = j + 32044;
+      i64 const b = Div(4 * a + 3, 146097);
+      i64 const c = a - Div(146097 * b, 4);  // From here on nothing is negative.
+      i64 const d = (4 * c + 3) / 1461;
+      i64 const e = c - 1461 * d / 4;
+      i64 const m = (5 * e + 2) / 153;
+      date.day = static_cast<int>(e - (153 * m + 2) / 5 + 1);
+      date.month = static_cast<int>(m + 3 - 12 * (m / 10));
+      year = 100 * b + d - 4800 + m / 10;
+      break;
+    }
+    case Calendar_Julian: {
+      i64 const c = 4 * (j - 1721118) + 3;
+      i64 const e = 5 * (Mod(c, 1461) / 4) + 2;
+      i64 const m = e / 153;
+      i64 const t = (m + 2) / 12;
+      year = static_cast<short>(static_cast<u16>(Div(c, 1461) + t));  // Cut to 16 bits.
+      date.month = static_cast<int>(m - 12 * t + 3);
+      date.day = static_cast<int>(e % 153 / 5 + 1);
+      break;
+    }
+    case Calendar_RevisedJulian: {
+      i64 const k2 = 9 * (j - 1721120) + 2;
+      i64 const c = Div(k2, 328718);
+      i64 const k1 = 100 * (Mod(k2, 328718) / 9) + 99;
+      i64 const k3 = 5 * (k1 % 36525 / 100) + 2;
+      i64 const x = k3 / 153;
+      i64 const w = (x + 2) / 12;
+      year = 100 * c + k1 / 36525 + w;
+      date.month = static_cast<int>(x - 12 * w + 3);
+      date.day = static_cast<int>(k3 % 153 / 5 + 1);
+      break;
+    }
+    case Calendar_Persian: {
+      // The year from the cycle and the mean year length; its start may lie
+      // one day after `j`'s year ends, and then `j` is the next year's first
+      // day. rest = floor(since / 365.2421985815603) in integers, exact for
+      // every day of a cycle (see PersianYearStart).
+      i64 const cycle = Div(j - kPersianEpochDay, kPersianCycleDays);
+      i64 const since = j - (kPersianCycleDays * cycle + kPersianEpochDay);
+      i64 const rest = since * kPersianCycleYears / kPersianCycleDays;
+      year = rest + kPersianCycleYears * cycle + 475;
+      i64 dayOfYear = j - PersianYearStart(rest, cycle) + 1;
+      if (dayOfYear > GetDaysPerYear(Low32(year > 0 ? year : year - 1), Calendar_Persian)) {
+        ++year;
+        dayOfYear = 1;
+      }
+      // Months 1 to 6 have 31 days, 7 to 11 have 30, and month 12 the rest.
+      int const d = static_cast<int>(dayOfYear) - 1;
+      int const month = d < 186 ? d / 31 + 1 : std::min(7 + (d - 186) / 30, 12);
+      date.month = month;
+      date.day = d - PersianDaysBeforeMonth(month) + 1;
+      break;
+    }
+    default: {  // Calendar_Islamic
+      int const k2 = Low32(30 * (j - 1948440) + 15);
+      int const k1 = static_cast<int>(11 * (Mod(k2, 10631) / 30) + 5);
+      year = Div(k2, 10631) + 1;
+      date.month = k1 / 325 + 1;
+      date.day = k1 % 325 / 11 + 1;
+      break;
+    }
+  }
+  date.year = StoredYear(year);
+}
+
+int CZEL_Date::GetDay(t_Calendar calendar) const {
+  t_Date_Struct date{};
+  return GetDateStruct(date, calendar) == ZEL_ERR_NONE ? date.day : 0;
+}
+
+int CZEL_Date::GetMonth(t_Calendar calendar) const {
+  t_Date_Struct date{};
+  return GetDateStruct(date, calendar) == ZEL_ERR_NONE ? date.month : 0;
+}
+
+int CZEL_Date::GetYear(t_Calendar calendar) const {
+  t_Date_Struct date{};
+  return GetDateStruct(date, calendar) == ZEL_ERR_NONE ? date.year : 0;
+}
+
+int CZEL_Date::GetWeekday(t_Calendar /*calendar*/) const {
+  return IsNull() ? 0 : static_cast<int>(Mod(m_JulianDay, 7) + 1);
+}
+
+int CZEL_Date::GetDayOfyear(t_Calendar calendar) const {
+  if (IsNull()) return 0;
+  CZEL_Date const first(GetYear(calendar), 1, 1, calendar);
+  return first.IsValid() ? static_cast<int>(first.GetDaysTo(*this) + 1) : 0;
+}
+
+// A null date leaves the struct at zeros, and year 0 has no days.
+int CZEL_Date::GetDaysPerMonth(t_Calendar calendar) const {
+  t_Date_Struct date{};
+  (void)GetDateStruct(date, calendar);
+  return GetDaysPerMonth(date.month, date.year, calendar);
+}
+
+int CZEL_Date::GetDaysPerYear(t_Calendar calendar) const {
+  t_Date_Struct date{};
+  (void)GetDateStruct(date, calendar);
+  return GetDaysPerYear(date.year, calendar);
+}
+
+u8 CZEL_Date::IsValid() const {
+  return m_JulianDay >= kFirstValidDay && m_JulianDay <= kLastValidDay ? 1 : 0;
+}
+
+u8 CZEL_Date::IsNull() const { return IsValid() ? 0 : 1; }
+
+CZEL_String CZEL_Date::ToString(CZEL_String const& format, t_Calendar calendar) const {
+  t_Date_Struct date{};  // Zeros for a null date or an unknown calendar.
+  (void)GetDateStruct(date, calendar);
+  return ZEL::ExpandFormatFields(
+      format, [&date](char field, char* text) { return ExpandDateField(field, date, text); });
+}
+
+// -----------------------------------------------------------------------------
+// Calendar rules
+// -----------------------------------------------------------------------------
+
+int CZEL_Date::GetDaysPerMonth(int month, int year, t_Calendar calendar) {
+  if (year == 0 || month < 1 || month > 12) return 0;
+  switch (calendar) {
+    case Calendar_Gregorian:
+    case Calendar_Julian:
+    case Calendar_RevisedJulian:
+      return month == 2 ? 28 + IsLeapYear(year, calendar) : ((month & 1) ^ (month >> 3)) | 30;
+    case Calendar_Persian:
+      return month <= 6 ? 31 : month <= 11 ? 30 : 29 + IsLeapYear(year, calendar);
+    case Calendar_Islamic:
+      return month == 12 ? 29 + IsLeapYear(year, calendar) : 29 + (month & 1);
+    default:
+      return 0;
+  }
+}
+
+int CZEL_Date::GetDaysPerYear(int year, t_Calendar calendar) {
+  if (GetMonthsPerYear(year, calendar) == 0) return 0;
+  return 365 + IsLeapYear(year, calendar);
+}
+
+int CZEL_Date::GetMonthsPerYear(int year, t_Calendar calendar) {
+  if (calendar > Calendar_Islamic) return 0;
+  if (year > 0) return kMonthsPerYear;
+  u8 const has = year < 0 ? CalendarHasNegativeYears(calendar) : CalendarHasYearZero(calendar);
+  return has ? kMonthsPerYear : 0;
+}
+
+u8 CZEL_Date::CalendarHasYearZero(t_Calendar /*calendar*/) { return 0; }
+
+u8 CZEL_Date::CalendarHasNegativeYears(t_Calendar calendar) {
+  return calendar <= Calendar_Islamic ? 1 : 0;
+}
+
+u8 CZEL_Date::IsLeapYear(int year, t_Calendar calendar) {
+  if (year == INT_MIN) return 0;
+  i64 const y1 = ClosedYear(year);
+  i64 const y0 = year < 0 ? y1 : year;  // The same, but year 0 counting as 0.
+  bool leap = false;
+  switch (calendar) {
+    case Calendar_Gregorian:
+      leap = (Mod(y1, 4) == 0 && Mod(y1, 100) != 0) || Mod(y1, 400) == 0;
+      break;
+    case Calendar_Julian:
+      leap = year != 0 && Mod(y1, 4) == 0;
+      break;
+    case Calendar_RevisedJulian:
+      leap = Mod(y1, 4) == 0 &&
+             (Mod(y1, 100) != 0 || Mod(Div(y1, 100), 9) == 2 || Mod(Div(y1, 100), 9) == 6);
+      break;
+    case Calendar_Persian:
+      leap = Mod(Low32((y0 + 2346) * 683), 2820) < 683;
+      break;
+    case Calendar_Islamic:
+      leap = Mod(Low32(y0 * 11 + 14), 30) < 11;
+      break;
+    default:
+      break;
+  }
+  return leap ? 1 : 0;
+}
+
+u8 CZEL_Date::IsValid(int year, int month, int day, t_Calendar calendar) {
+  // `GetDaysPerMonth` is 0 for year 0 and for an unknown calendar.
+  return day >= 1 && day <= GetDaysPerMonth(month, year, calendar) ? 1 : 0;
+}
+
+i64 CZEL_Date::DateToJulianDay(int year, int month, int day, t_Calendar calendar) {
+  if (!IsValid(year, month, day, calendar)) return kNullDay;
+  i64 const y1 = ClosedYear(year);
+  i64 const t = month < 3 ? -1 : 0;  // Months 1 and 2 count with the year before.
+  switch (calendar) {
+    case Calendar_Gregorian: {
+      i64 const a = (14 - month) / 12;
+      i64 const y = y1 + 4800 - a;
+      i64 const m = month + 12 * a - 3;
+      return day + (153 * m + 2) / 5 + 365 * y + Div(y, 4) - Div(y, 100) + Div(y, 400) - 32045;
+    }
+    case Calendar_Julian:
+      return Div((y1 + t) * 1461, 4) + (153 * month - 1836 * t - 457) / 5 + day + 1721117;
+    case Calendar_RevisedJulian: {
+      i64 const m = month - 12 * t - 3;
+      i64 const y = y1 + t;
+      i64 const c = Div(y, 100);
+      i64 const r = Mod(y, 100);
+      return Div(Low32(328718 * c) + i64{6}, 9) + 36525 * r / 100 + (153 * m + 2) / 5 + day +
+             1721119;
+    }
+    case Calendar_Persian: {
+      i64 const e = year >= 1 ? year - 475 : year - 474;
+      i64 const cycle = Div(e, kPersianCycleYears);
+      i64 const rest = e - kPersianCycleYears * cycle;
+      return PersianYearStart(rest, cycle) + PersianDaysBeforeMonth(month) + day - 1;
+    }
+    default:  // Calendar_Islamic
+      return Div(Low32(10631 * y1) - i64{10617}, 30) + (325 * month - 320) / 11 + day + 1948439;
+  }
+}
+
+// -----------------------------------------------------------------------------
+// Arithmetic
+// -----------------------------------------------------------------------------
+
+// The sum wraps in unsigned arithmetic; a wrapped sum never lands in the
+// valid range, so an overflow gives a null date as the true sum would.
+CZEL_Date CZEL_Date::AddDays(i64 days) const {
+  if (IsNull()) return *this;
+  auto const sum = static_cast<std::uint64_t>(m_JulianDay) + static_cast<std::uint64_t>(days);
+  return CreateFromJulianDay(static_cast<i64>(sum));
+}
+
+// The months are counted through as one number across the years, year 0
+// left out: the same as stepping year by year, twelve months at a time.
+CZEL_Date CZEL_Date::AddMonths(int months, t_Calendar calendar) const {
+  if (IsNull()) return CZEL_Date();
+  if (months == 0) return *this;
+  t_Date_Struct date{};
+  if (GetDateStruct(date, calendar) != ZEL_ERR_NONE) return CZEL_Date();
+  i64 const index = MonthIndex(date.year, date.month, calendar) + months;
+  return FromClampedStruct(YearOfMonthIndex(index, calendar),
+                           static_cast<int>(Mod(index, kMonthsPerYear) + 1), date.day, calendar);
+}
+
+CZEL_Date CZEL_Date::AddYears(int years, t_Calendar calendar) const {
+  if (IsNull()) return CZEL_Date();
+  if (years == 0) return *this;
+  t_Date_Struct date{};
+  if (GetDateStruct(date, calendar) != ZEL_ERR_NONE) return CZEL_Date();
+  i64 year = i64{date.year} + years;
+  bool const crossed = (date.year < 1) != (year < 1) || year == 0;
+  if (!CalendarHasYearZero(calendar) && crossed) year += years > 0 ? 1 : -1;
+  return FromClampedStruct(year, date.month, date.day, calendar);
+}
+
+CZEL_Date CZEL_Date::FromClampedStruct(i64 year, int month, int day, t_Calendar calendar) {
+  if (year < 0 && !CalendarHasNegativeYears(calendar)) return CZEL_Date();
+  if (year == 0 && !CalendarHasYearZero(calendar)) return CZEL_Date();
+  if (year < INT_MIN || year > INT_MAX) return CZEL_Date();
+  int const y = static_cast<int>(year);
+  return CZEL_Date(y, month, std::min(day, GetDaysPerMonth(month, y, calendar)), calendar);
+}
+
+i64 CZEL_Date::GetDaysTo(CZEL_Date const& other) const {
+  if (IsNull() || other.IsNull()) return 0;
+  return other.m_JulianDay - m_JulianDay;
+}
+
+// -----------------------------------------------------------------------------
+// Comparison
+// -----------------------------------------------------------------------------
+
+u8 CZEL_Date::operator==(CZEL_Date const& other) const { return SortCompare(*this, other) == 0; }
+u8 CZEL_Date::operator!=(CZEL_Date const& other) const { return SortCompare(*this, other) != 0; }
+u8 CZEL_Date::operator<(CZEL_Date const& other) const { return SortCompare(*this, other) < 0; }
+u8 CZEL_Date::operator<=(CZEL_Date const& other) const { return SortCompare(*this, other) <= 0; }
+u8 CZEL_Date::operator>(CZEL_Date const& other) const { return SortCompare(*this, other) > 0; }
+u8 CZEL_Date::operator>=(CZEL_Date const& other) const { return SortCompare(*this, other) >= 0; }
+
+signed char CZEL_Date::SortCompare(CZEL_Date const& a, CZEL_Date const& b) {
+  if (a.m_JulianDay == b.m_JulianDay) return 0;
+  return a.m_JulianDay > b.m_JulianDay ? 1 : -1;
+}

@@ -1,0 +1,74 @@
+// -----------------------------------------------------------------------------
+// File: ZEL_CalendarSupport.h
+// -----------------------------------------------------------------------------
+//
+// What `CZEL_Date` and `CZEL_Time` share, inside the library: the one reading
+// of the local wall clock, and the expansion of `%` fields in their format
+// strings. Applications use the classes' own members (`GetCurrentDate`,
+// `GetCurrentTime`, `ToString`) instead.
+
+#ifndef LZEL_CORE_CALENDAR_ZEL_CALENDAR_SUPPORT_H_
+#define LZEL_CORE_CALENDAR_ZEL_CALENDAR_SUPPORT_H_
+
+#include <LZEL_Core/frame/ZEL_Types.h>
+#include <LZEL_Core/text/CZEL_String.h>
+
+#include <string>
+
+namespace ZEL {
+
+// The local wall-clock time, Gregorian, to the millisecond.
+struct t_LocalClock {
+  int year;
+  int month;   // 1 to 12
+  int day;     // 1 to 31
+  int hour;    // 0 to 23
+  int minute;  // 0 to 59
+  int second;  // 0 to 60, a leap second included
+  int millisecond;
+};
+
+// Reads the local clock. Every field is -1 if it can't be read, which makes
+// the date and the time built from it null.
+t_LocalClock ReadLocalClock();
+
+// The room a field expansion may fill: any int in decimal with its sign.
+constexpr int kFieldTextSize = 24;
+
+// `format` with its `%` fields expanded. `expand(field, text)` writes the
+// expansion of the field character `field` into `text` (kFieldTextSize bytes)
+// and returns its length, or returns -1 for a character that names no field.
+// `%%` gives a single `%`; an unknown field repeats the last expansion, or
+// gives nothing before the first; a `%` at the end gives nothing. Every
+// other character of the format, a 0 byte included, is copied.
+template <typename Expand>
+CZEL_String ExpandFormatFields(CZEL_String const& format, Expand&& expand) {
+  char const* const text = format.GetStringC();
+  u32 const length = format.GetLength();
+  std::string result;
+  result.reserve(length);
+  char last[kFieldTextSize];
+  int lastLength = 0;
+  for (u32 pos = 0; pos < length; ++pos) {
+    if (text[pos] != '%') {
+      result += text[pos];
+    } else if (++pos == length) {
+      break;
+    } else if (text[pos] == '%') {
+      result += '%';
+    } else {
+      char field[kFieldTextSize];
+      int const fieldLength = expand(text[pos], field);
+      if (fieldLength >= 0) {
+        std::string::traits_type::copy(last, field, static_cast<std::size_t>(fieldLength));
+        lastLength = fieldLength;
+      }
+      result.append(last, static_cast<std::size_t>(lastLength));
+    }
+  }
+  return CZEL_String(result.data(), static_cast<u32>(result.size()));
+}
+
+}  // namespace ZEL
+
+#endif  // LZEL_CORE_CALENDAR_ZEL_CALENDAR_SUPPORT_H_
