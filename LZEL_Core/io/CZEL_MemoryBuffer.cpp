@@ -8,11 +8,14 @@ using ZEL::u8;
 
 CZEL_MemoryBuffer::CBlockList::CBlockList() = default;
 CZEL_MemoryBuffer::CBlockList::CBlockList(CBlockList const& src) : CZEL_List(src) {}
+// The moves copy: the chain's items are not handed over.
+// NOLINTNEXTLINE(performance-noexcept-move-constructor)
 CZEL_MemoryBuffer::CBlockList::CBlockList(CBlockList&& src) : CZEL_List(src) {}
 CZEL_MemoryBuffer::CBlockList& CZEL_MemoryBuffer::CBlockList::operator=(CBlockList const& src) {
   CZEL_List::operator=(src);
   return *this;
 }
+// NOLINTNEXTLINE(performance-noexcept-move-constructor)
 CZEL_MemoryBuffer::CBlockList& CZEL_MemoryBuffer::CBlockList::operator=(CBlockList&& src) {
   CZEL_List::operator=(src);
   return *this;

@@ -52,9 +52,10 @@ class ZEL_API CZEL_MemoryBuffer : public CZEL_Buffer {
    public:
     CBlockList();
     CBlockList(CBlockList const& src);
-    CBlockList(CBlockList&& src);
+    // Moving copies the blocks, which allocates, so it can throw.
+    CBlockList(CBlockList&& src);  // NOLINT(performance-noexcept-move-constructor)
     CBlockList& operator=(CBlockList const& src);
-    CBlockList& operator=(CBlockList&& src);
+    CBlockList& operator=(CBlockList&& src);  // NOLINT(performance-noexcept-move-constructor)
     ~CBlockList() override;
   };
 

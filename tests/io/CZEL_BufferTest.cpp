@@ -125,7 +125,7 @@ TEST(MemoryBufferTest, BlocksCursorAndEnds) {
   Put(ones, Count(3));
   EXPECT_EQ(ones.Blocks(), 4u);
   Probe none(0);
-  EXPECT_ZEL_CODE(Put(none, {1}), ZEL_ERR_EMPTY_INPUT);
+  EXPECT_EQ(zel_test::CodeOf([&] { Put(none, {1}); }), ZEL_ERR_EMPTY_INPUT);
   EXPECT_EQ(none.Blocks(), 1u);  // an item without storage stays behind
 }
 
