@@ -65,21 +65,19 @@ bool IsDropped(int ch) { return ch == 0 || ch == 13; }
 // delivers nothing.
 //
 // A stream open for writing is asked for its length once and for its
-// position before every byte. A stream read alone (`counted`) has its
-// position counted, and the bytes it holds read ahead are scanned as runs
-// without asking for the length: they lie before the end of a file that only
-// grows. The length is asked for once the read-ahead is used up.
+// position before every byte. A stream read alone (`counted`) has the bytes
+// it holds read ahead scanned as runs without asking for the length or the
+// position: they lie before the end of a file that only grows. Both are
+// asked for once the read-ahead is used up, the length once per line.
 template <typename Keep>
 std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u64 limit,
                       Keep keep) {
   u64 length = counted ? 0 : file.GetLength();
   bool lengthKnown = !counted;
-  u64 pos = counted ? file.GetPos() : 0;
   auto atEnd = [&] {
-    if (!counted) return file.GetPos() >= length;
     if (!lengthKnown) length = file.GetLength();
     lengthKnown = true;
-    return pos >= length;
+    return file.GetPos() >= length;
   };
   u64 count = 0;
   std::int64_t result = -1;
@@ -96,16 +94,22 @@ std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u6
       std::size_t const span = lf != nullptr ? static_cast<std::size_t>(lf - bytes) : ahead;
       std::size_t used = 0;
       while (used < span && count < limit) {
-        std::size_t run = 0;
-        while (used + run < span && run < limit - count && !IsDropped(bytes[used + run])) ++run;
-        keep(bytes + used, run, count);
+        // The run up to the next dropped byte, the limit or the line feed.
+        char const* from = bytes + used;
+        std::size_t run = static_cast<std::size_t>(std::min<u64>(span - used, limit - count));
+        if (auto const* nul = static_cast<char const*>(std::memchr(from, 0, run))) {
+          run = static_cast<std::size_t>(nul - from);
+        }
+        if (auto const* cr = static_cast<char const*>(std::memchr(from, 13, run))) {
+          run = static_cast<std::size_t>(cr - from);
+        }
+        keep(from, run, count);
         count += run;
         used += run;
-        if (used < span && count < limit) ++used;  // a dropped byte
+        if (used < span && count < limit) ++used;  // the dropped byte
       }
       bool const ended = lf != nullptr && used == span && count < limit;
       TakeReadAhead(stream, used + (ended ? 1 : 0));
-      pos += used + (ended ? 1 : 0);
       if (ended) {
         result = static_cast<std::int64_t>(count);
         break;
@@ -114,7 +118,6 @@ std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u6
     }
     int const ch = getc_unlocked(stream);
     if (ch == EOF) break;
-    ++pos;
     if (ch == 10) {
       result = static_cast<std::int64_t>(count);
       break;
@@ -127,6 +130,28 @@ std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u6
   funlockfile(stream);
   return result;
 }
+
+// The characters of a line being read: most lines fit the inline array, a
+// longer one moves to the heap.
+class LineText {
+ public:
+  void Append(char const* bytes, std::size_t n) {
+    if (m_Long.empty() && m_Size + n <= sizeof m_Short) {
+      std::memcpy(m_Short + m_Size, bytes, n);
+    } else {
+      if (m_Long.empty()) m_Long.assign(m_Short, m_Size);
+      m_Long.append(bytes, n);
+    }
+    m_Size += n;
+  }
+  char const* Data() const { return m_Long.empty() ? m_Short : m_Long.data(); }
+  std::size_t Size() const { return m_Size; }
+
+ private:
+  char m_Short[256];
+  std::size_t m_Size = 0;
+  std::string m_Long;
+};
 
 // The index behind the last '/' of `path`, 0 if it has none.
 u32 CutBehindLastSeparator(CZEL_String const& path) {
@@ -252,23 +277,21 @@ u32 CZEL_File::ReadTextLine(char* text, u32 maxChars) {
 
 u32 CZEL_File::ReadTextLine(CZEL_String& text) {
   if (m_Stream == nullptr) return ZEL_ERR_READ_DENIED;
-  std::string line;
+  LineText line;
   std::int64_t const count =
       ScanLine(*this, m_Stream, HasStableSize(), UINT64_MAX,
-               [&line](char const* bytes, std::size_t n, u64) { line.append(bytes, n); });
+               [&line](char const* bytes, std::size_t n, u64) { line.Append(bytes, n); });
+  auto const kept = static_cast<u32>(line.Size());
   if (count >= 0) {
-    text = CZEL_String(line.data(), static_cast<u32>(line.size()));
-    return ZEL_ERR_NONE;
-  }
-  if (!line.empty()) {
+    text.SetLength(kept, ' ');
+  } else if (kept != 0) {
     // The line grows in steps of 100 characters, the first step taken on the
     // old text; what the failed read left is that text with the line on top.
-    auto const kept = static_cast<u32>(line.size());
     text.SetLength(100, ' ');
     text.SetLength((kept + 99) / 100 * 100, ' ');
-    std::memcpy(text.GetStringC(), line.data(), kept);
   }
-  return ZEL_ERR_READ_DENIED;
+  if (kept != 0) std::memcpy(text.GetStringC(), line.Data(), kept);
+  return count >= 0 ? ZEL_ERR_NONE : ZEL_ERR_READ_DENIED;
 }
 
 u32 CZEL_File::WriteText(char const* text) {
