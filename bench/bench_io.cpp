@@ -42,12 +42,14 @@ std::string const& Dir() {
     std::string pattern = (std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp");
     pattern += "/bench_io_XXXXXX";
     if (mkdtemp(pattern.data()) == nullptr) std::abort();
-    std::atexit([] {
-      std::string const command = "rm -rf '" + Dir() + "'";
-      if (std::system(command.c_str()) != 0) std::perror("rm");
-    });
     return pattern;
   }();
+  // Registered once the path is made, so that it runs before the path goes.
+  static int const removal = std::atexit([] {
+    std::string const command = "rm -rf '" + Dir() + "'";
+    if (std::system(command.c_str()) != 0) std::perror("rm");
+  });
+  (void)removal;
   return dir;
 }
 std::string PathOf(char const* name) { return Dir() + "/" + name; }

@@ -203,9 +203,11 @@ std::string const& ScratchPath() {
     int const fd = mkstemp(pattern.data());
     Require(fd >= 0);
     close(fd);
-    std::atexit([] { std::remove(ScratchPath().c_str()); });
     return pattern;
   }();
+  // Registered once the path is made, so that it runs before the path goes.
+  static int const removal = std::atexit([] { std::remove(ScratchPath().c_str()); });
+  (void)removal;
   return path;
 }
 

@@ -2,7 +2,9 @@
 
 #include <LZEL_Core/frame/CZEL_Exception.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
-#include <LZEL_Core/frame/ZEL_Primitives.h>
+
+#include <cstddef>
+#include <cstring>
 
 using ZEL::i64;
 using ZEL::u16;
@@ -12,35 +14,48 @@ using ZEL::u8;
 
 namespace {
 
-constexpr ZEL::t_ByteOrdering kStreamOrder = ZEL::ZEL_LITTLE_ENDIAN;
+template <std::size_t N>
+struct UnsignedOf;
+template <>
+struct UnsignedOf<1> {
+  using type = u8;
+};
+template <>
+struct UnsignedOf<2> {
+  using type = u16;
+};
+template <>
+struct UnsignedOf<4> {
+  using type = u32;
+};
+template <>
+struct UnsignedOf<8> {
+  using type = u64;
+};
 
-// Packs `value` with its `ToBuf` function and appends its bytes.
+// The stream's bytes of `value`: its bit pattern least significant byte
+// first, as the `ToBuf` functions give them with ZEL_LITTLE_ENDIAN, packed
+// here so that the compiler makes one store of it.
 template <typename V>
-void Put(CZEL_Buffer& buffer, V const& value, void (*to)(V const&, u8*, ZEL::t_ByteOrdering)) {
+void Put(CZEL_Buffer& buffer, V value) {
+  using U = typename UnsignedOf<sizeof(V)>::type;
+  U bits;
+  std::memcpy(&bits, &value, sizeof(V));
   u8 bytes[sizeof(V)];
-  to(value, bytes, kStreamOrder);
+  for (std::size_t i = 0; i < sizeof(V); ++i) bytes[i] = static_cast<u8>(bits >> (8 * i));
   buffer.AppendData(bytes, sizeof(V));
 }
 
-// Retrieves the bytes of a `V` and unpacks them into `value` with its
-// `FromBuf` function; a failed read leaves `value` alone.
+// Retrieves the bytes of a `V` and unpacks them into `value`, as the
+// `FromBuf` functions do; a failed read leaves `value` alone.
 template <typename V>
-void Get(CZEL_Buffer& buffer, V& value, V (*from)(u8*, ZEL::t_ByteOrdering)) {
+void Get(CZEL_Buffer& buffer, V& value) {
+  using U = typename UnsignedOf<sizeof(V)>::type;
   u8 bytes[sizeof(V)];
   buffer.RetrieveData(bytes, sizeof(V));
-  value = from(bytes, kStreamOrder);
-}
-
-// A single byte goes through as it is.
-template <typename V>
-void PutByte(CZEL_Buffer& buffer, V value) {
-  buffer.AppendData(&value, 1);
-}
-template <typename V>
-void GetByte(CZEL_Buffer& buffer, V& value) {
-  V byte;
-  buffer.RetrieveData(&byte, 1);
-  value = byte;
+  U bits = 0;
+  for (std::size_t i = 0; i < sizeof(V); ++i) bits |= static_cast<U>(U{bytes[i]} << (8 * i));
+  std::memcpy(&value, &bits, sizeof(V));
 }
 
 }  // namespace
@@ -89,27 +104,27 @@ u64 CZEL_Buffer::GetSize() const { return m_Size; }
 u8 CZEL_Buffer::IsEnd() const { return m_AtEnd; }
 
 void CZEL_Buffer::operator<<(void* /*value*/) {}
-void CZEL_Buffer::operator<<(double value) { Put(*this, value, ZEL::DoubleToBuf); }
-void CZEL_Buffer::operator<<(float value) { Put(*this, value, ZEL::FloatToBuf); }
-void CZEL_Buffer::operator<<(i64 value) { Put(*this, value, ZEL::Int64ToBuf); }
-void CZEL_Buffer::operator<<(int value) { Put(*this, value, ZEL::Int32ToBuf); }
-void CZEL_Buffer::operator<<(short value) { Put(*this, value, ZEL::Int16ToBuf); }
-void CZEL_Buffer::operator<<(signed char value) { PutByte(*this, value); }
-void CZEL_Buffer::operator<<(u64 value) { Put(*this, value, ZEL::Uint64ToBuf); }
-void CZEL_Buffer::operator<<(u32 value) { Put(*this, value, ZEL::Uint32ToBuf); }
-void CZEL_Buffer::operator<<(u16 value) { Put(*this, value, ZEL::Uint16ToBuf); }
-void CZEL_Buffer::operator<<(u8 value) { PutByte(*this, value); }
-void CZEL_Buffer::operator<<(char value) { PutByte(*this, value); }
+void CZEL_Buffer::operator<<(double value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(float value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(i64 value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(int value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(short value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(signed char value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(u64 value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(u32 value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(u16 value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(u8 value) { Put(*this, value); }
+void CZEL_Buffer::operator<<(char value) { Put(*this, value); }
 
 void CZEL_Buffer::operator>>(void* /*value*/) {}
-void CZEL_Buffer::operator>>(double& value) { Get(*this, value, ZEL::DoubleFromBuf); }
-void CZEL_Buffer::operator>>(float& value) { Get(*this, value, ZEL::FloatFromBuf); }
-void CZEL_Buffer::operator>>(i64& value) { Get(*this, value, ZEL::Int64FromBuf); }
-void CZEL_Buffer::operator>>(int& value) { Get(*this, value, ZEL::Int32FromBuf); }
-void CZEL_Buffer::operator>>(short& value) { Get(*this, value, ZEL::Int16FromBuf); }
-void CZEL_Buffer::operator>>(signed char& value) { GetByte(*this, value); }
-void CZEL_Buffer::operator>>(u64& value) { Get(*this, value, ZEL::Uint64FromBuf); }
-void CZEL_Buffer::operator>>(u32& value) { Get(*this, value, ZEL::Uint32FromBuf); }
-void CZEL_Buffer::operator>>(u16& value) { Get(*this, value, ZEL::Uint16FromBuf); }
-void CZEL_Buffer::operator>>(u8& value) { GetByte(*this, value); }
-void CZEL_Buffer::operator>>(char& value) { GetByte(*this, value); }
+void CZEL_Buffer::operator>>(double& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(float& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(i64& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(int& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(short& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(signed char& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(u64& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(u32& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(u16& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(u8& value) { Get(*this, value); }
+void CZEL_Buffer::operator>>(char& value) { Get(*this, value); }

@@ -91,7 +91,7 @@ void CZEL_FileBuffer::ToEnd() { Fail(ZEL_ERR_NOT_SUPPORTED); }
 // disk does not stop the stream.
 void CZEL_FileBuffer::AppendData(void* data, u32 count) {
   if (m_File == nullptr) Fail(ZEL_ERR_IO);
-  CZEL_Buffer::AppendData(data, count);
+  CheckWrite();
   WalkBlocks(
       static_cast<u8*>(data), count, true, m_Block, m_BlockOffset,
       [this] {
@@ -113,7 +113,10 @@ void CZEL_FileBuffer::Refill() {
 }
 
 void CZEL_FileBuffer::RetrieveData(void* data, u32 count) {
-  CZEL_Buffer::RetrieveData(data, count);
+  // The base's checks, then its range test repeated with another code, which
+  // can't fire behind the first.
+  CheckRead();
+  if (m_Position + count > m_Size) Fail(ZEL_ERR_OUT_OF_RANGE);
   if (m_Position + count > m_Size) Fail(ZEL_ERR_READ_DENIED);
   WalkBlocks(
       static_cast<u8*>(data), count, false, m_Block, m_BlockOffset,

@@ -47,9 +47,7 @@ void CZEL_MemoryBuffer::DataCopy(CZEL_MemoryBuffer const& src) {
   m_Blocks = src.m_Blocks;
 }
 
-u64 CZEL_MemoryBuffer::GetAbsPosition() {
-  return m_BlockOffset + u64{m_CurBlockIndex} * m_BlockSize;
-}
+u64 CZEL_MemoryBuffer::GetAbsPosition() { return Position(); }
 
 void CZEL_MemoryBuffer::DeleteAll() {
   m_Blocks.DeleteAll();
@@ -67,7 +65,7 @@ void CZEL_MemoryBuffer::PlaceCursor(CZEL_Uint8Vector* block, u32 index, u32 offs
   SetEndMark();
 }
 
-void CZEL_MemoryBuffer::SetEndMark() { m_AtEnd = GetAbsPosition() >= m_Size ? 1 : 0; }
+void CZEL_MemoryBuffer::SetEndMark() { m_AtEnd = Position() >= m_Size ? 1 : 0; }
 
 void CZEL_MemoryBuffer::ToStart() {
   if (m_Blocks.GetLength() == 0) {
@@ -97,7 +95,7 @@ void CZEL_MemoryBuffer::AppendBlock() {
 // The walk's turn at a block's end: writing appends a block at the tail,
 // reading steps the chain's cursor on; either way the block count goes up.
 void CZEL_MemoryBuffer::AppendData(void* data, u32 count) {
-  CZEL_Buffer::AppendData(data, count);
+  CheckWrite();
   if (m_CurBlock == nullptr) AppendBlock();
   WalkBlocks(
       static_cast<u8*>(data), count, true, m_CurBlock->GetBuf(), m_BlockOffset,
@@ -111,8 +109,11 @@ void CZEL_MemoryBuffer::AppendData(void* data, u32 count) {
 }
 
 void CZEL_MemoryBuffer::RetrieveData(void* data, u32 count) {
-  CZEL_Buffer::RetrieveData(data, count);
-  if (GetAbsPosition() + count > m_Size) Fail(ZEL_ERR_READ_DENIED);
+  // The base's checks, then its range test repeated with another code, which
+  // can't fire behind the first.
+  CheckRead();
+  if (Position() + count > m_Size) Fail(ZEL_ERR_OUT_OF_RANGE);
+  if (Position() + count > m_Size) Fail(ZEL_ERR_READ_DENIED);
   if (count == 0) {  // there may be no block to start from
     SetEndMark();
     return;

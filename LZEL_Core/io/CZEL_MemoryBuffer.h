@@ -121,6 +121,9 @@ class ZEL_API CZEL_MemoryBuffer : public CZEL_Buffer {
 
   // The end mark by the position: 1 once it has reached the size.
   void SetEndMark();
+
+  // The cursor's position, as `GetAbsPosition` gives it.
+  ZEL::u64 Position() const { return m_BlockOffset + ZEL::u64{m_CurBlockIndex} * m_BlockSize; }
 };
 
 #endif  // LZEL_CORE_IO_CZEL_MEMORY_BUFFER_H_
