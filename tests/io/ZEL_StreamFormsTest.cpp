@@ -81,16 +81,14 @@ TEST_F(StreamFormsTest, ValuesToFileAndBack) {
 TEST_F(StreamFormsTest, Strings) {
   std::string text(3000, 0);
   for (std::size_t i = 0; i < text.size(); ++i) text[i] = static_cast<char>(i % 251);
-  for (ZEL::u32 lead = 0; lead < 16; ++lead) {  // the length across every block offset
-    CZEL_MemoryBuffer b(16);
-    b.AppendData(text.data(), lead);
-    b << Make(text);
-    b.ToStart();
-    b.RetrieveData(text.data(), lead);
-    CZEL_String got("old");
-    b >> got;
-    EXPECT_EQ(Text(got), text) << lead;
-  }
+  CZEL_MemoryBuffer across(16);  // the length and the text across block ends
+  across.AppendData(text.data(), 14);
+  across << Make(text);
+  across.ToStart();
+  across.RetrieveData(text.data(), 14);
+  CZEL_String got("old");
+  across >> got;
+  EXPECT_EQ(Text(got), text);
   // No rollback: a string whose characters are missing has taken the length.
   CZEL_MemoryBuffer b = Holding({5, 0, 0, 0, 'x', 'y'});
   CZEL_String s("abc");
