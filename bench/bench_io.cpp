@@ -149,11 +149,27 @@ void BM_StdioPerValueWrite(benchmark::State& state) {
 }
 BENCHMARK(BM_StdioPerValueWrite)->Unit(benchmark::kMillisecond);
 
+// The file of typed values that the readers read, written once.
+std::string const& TypedFile() {
+  static std::string const path = [] {
+    std::string const p = PathOf("typed_in.bin");
+    CZEL_File file;
+    file.Open(p.c_str(), CZEL_File::FILE_OPEN_WRITE | CZEL_File::FILE_OPEN_TRUNCATE);
+    CZEL_FileBuffer out(kPiece);
+    out.AttachFile(&file, CZEL_Buffer::ACCESS_WRITE);
+    for (std::uint64_t i = 0; i < kRecords; ++i) WriteRecord(out, i);
+    out.Close();
+    return p;
+  }();
+  return path;
+}
+
 void BM_FileBufferRead(benchmark::State& state) {
+  std::string const& path = TypedFile();
   std::uint64_t sum = 0;
   for (auto _ : state) {
     CZEL_File file;
-    file.Open(PathOf("typed.bin").c_str(), CZEL_File::FILE_OPEN_READ);
+    file.Open(path.c_str(), CZEL_File::FILE_OPEN_READ);
     CZEL_FileBuffer in(static_cast<ZEL::u32>(state.range(0)));
     in.AttachFile(&file, CZEL_Buffer::ACCESS_READ);
     for (std::uint64_t i = 0; i < kRecords; ++i) sum += ReadRecord(in);
@@ -165,9 +181,10 @@ void BM_FileBufferRead(benchmark::State& state) {
 BENCHMARK(BM_FileBufferRead)->Arg(4 << 10)->Arg(64 << 10)->Unit(benchmark::kMillisecond);
 
 void BM_StdioPerValueRead(benchmark::State& state) {
+  std::string const& path = TypedFile();
   std::uint64_t sum = 0;
   for (auto _ : state) {
-    StdioIn in{std::fopen(PathOf("typed.bin").c_str(), "rb")};
+    StdioIn in{std::fopen(path.c_str(), "rb")};
     for (std::uint64_t i = 0; i < kRecords; ++i) sum += ReadRecord(in);
     std::fclose(in.f);
   }
@@ -272,9 +289,10 @@ void Lines(benchmark::State& state, std::int64_t lines) {
 void BM_ReadTextLineArray(benchmark::State& state) {
   std::int64_t lines = 0;
   char buf[257];
+  std::string const& path = TextFile();  // made before the timing starts
   for (auto _ : state) {
     CZEL_File file;
-    file.Open(TextFile().c_str(), CZEL_File::FILE_OPEN_READ);
+    file.Open(path.c_str(), CZEL_File::FILE_OPEN_READ);
     while (file.ReadTextLine(buf, 256) == 0) ++lines;
   }
   Lines(state, lines);
@@ -284,9 +302,10 @@ BENCHMARK(BM_ReadTextLineArray)->Unit(benchmark::kMillisecond);
 void BM_ReadTextLineString(benchmark::State& state) {
   std::int64_t lines = 0;
   CZEL_String line;
+  std::string const& path = TextFile();  // made before the timing starts
   for (auto _ : state) {
     CZEL_File file;
-    file.Open(TextFile().c_str(), CZEL_File::FILE_OPEN_READ);
+    file.Open(path.c_str(), CZEL_File::FILE_OPEN_READ);
     while (file.ReadTextLine(line) == 0) ++lines;
   }
   Lines(state, lines);
@@ -296,8 +315,9 @@ BENCHMARK(BM_ReadTextLineString)->Unit(benchmark::kMillisecond);
 void BM_StdGetline(benchmark::State& state) {
   std::int64_t lines = 0;
   std::string line;
+  std::string const& path = TextFile();  // made before the timing starts
   for (auto _ : state) {
-    std::ifstream in(TextFile(), std::ios::binary);
+    std::ifstream in(path, std::ios::binary);
     while (std::getline(in, line)) ++lines;
   }
   Lines(state, lines);

@@ -159,8 +159,15 @@ class ZEL_API CZEL_Buffer : public CZEL_Object {
   }
 
   // Copies `count` bytes, none for a `count` of 0 whatever the pointers.
+  // The few bytes of a typed value are moved one by one, sparing the call.
   static void CopyBytes(void* to, void const* from, ZEL::u64 count) {
-    if (count != 0) std::memcpy(to, from, count);
+    if (count <= 8) {
+      for (ZEL::u64 i = 0; i < count; ++i) {
+        static_cast<ZEL::u8*>(to)[i] = static_cast<ZEL::u8 const*>(from)[i];
+      }
+    } else {
+      std::memcpy(to, from, count);
+    }
   }
 
   // The block walk that the derived classes share: moves `count` bytes
