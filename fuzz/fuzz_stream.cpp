@@ -31,9 +31,11 @@
 #include <string>
 #include <vector>
 
+#include "FuzzScratchFile.h"
 #include "FuzzSupport.h"
 
 using zel_fuzz::Require;
+using zel_fuzz::ScratchPath;
 using Bytes = std::vector<std::uint8_t>;
 
 namespace {
@@ -195,21 +197,6 @@ class Harness {
   CZEL_MemoryBuffer m_Echo{7};
   Bytes m_Expected;
 };
-
-// A file of its own for the life of the process.
-std::string const& ScratchPath() {
-  static std::string const path = [] {
-    std::string pattern = "/tmp/fuzz_stream_XXXXXX";
-    int const fd = mkstemp(pattern.data());
-    Require(fd >= 0);
-    close(fd);
-    return pattern;
-  }();
-  // Registered once the path is made, so that it runs before the path goes.
-  static int const removal = std::atexit([] { std::remove(ScratchPath().c_str()); });
-  (void)removal;
-  return path;
-}
 
 }  // namespace
 

@@ -18,9 +18,11 @@
 #include <string>
 #include <vector>
 
+#include "FuzzScratchFile.h"
 #include "FuzzSupport.h"
 
 using zel_fuzz::Require;
+using zel_fuzz::ScratchPath;
 
 namespace {
 
@@ -33,20 +35,6 @@ bool ModelLine(std::string const& file, std::size_t& pos, std::uint64_t limit, s
     if (ch == 10) return true;
     if (ch != 0 && ch != 13) line += ch;
   }
-}
-
-std::string const& ScratchPath() {
-  static std::string const path = [] {
-    std::string pattern = "/tmp/fuzz_text_lines_XXXXXX";
-    int const fd = mkstemp(pattern.data());
-    Require(fd >= 0);
-    close(fd);
-    return pattern;
-  }();
-  // Registered once the path is made, so that it runs before the path goes.
-  static int const removal = std::atexit([] { std::remove(ScratchPath().c_str()); });
-  (void)removal;
-  return path;
 }
 
 }  // namespace
