@@ -40,35 +40,118 @@ int Seek(std::FILE* stream, u64 offset, int whence) {
   return fseeko(stream, static_cast<off_t>(offset), whence);
 }
 
-// The bytes of one text line: up to a line feed (consumed, not kept), up to
-// `length`, or up to `limit` characters, bytes 0 and 13 dropped. `position`
-// tells where the stream stands before each byte; each kept byte goes to
-// `keep(ch, count)`. Returns the number kept, or -1 when the line fails: at
-// `length` or at the limit with nothing kept, or on a read that delivers
-// nothing, whatever was kept before it.
-template <typename Position, typename Keep>
-std::int64_t ScanLine(std::FILE* stream, u64 length, u64 limit, Position position, Keep keep) {
+// The bytes that a read stream holds read ahead, and taking a run of them as
+// getc_unlocked takes one. Where the runtime doesn't show its buffer, there
+// are none, and every byte goes through getc_unlocked.
+#if defined(__GLIBC__)
+std::size_t ReadAhead(std::FILE* stream) {
+  return static_cast<std::size_t>(stream->_IO_read_end - stream->_IO_read_ptr);
+}
+char const* ReadAheadBytes(std::FILE* stream) { return stream->_IO_read_ptr; }
+void TakeReadAhead(std::FILE* stream, std::size_t count) { stream->_IO_read_ptr += count; }
+#else
+std::size_t ReadAhead(std::FILE* /*stream*/) { return 0; }
+char const* ReadAheadBytes(std::FILE* /*stream*/) { return nullptr; }
+void TakeReadAhead(std::FILE* /*stream*/, std::size_t /*count*/) {}
+#endif
+
+bool IsDropped(int ch) { return ch == 0 || ch == 13; }
+
+// The bytes of one text line of the open `file`: up to a line feed
+// (consumed, not kept), up to the file's length, or up to `limit` kept
+// characters, bytes 0 and 13 dropped. Runs of kept bytes go to
+// `keep(bytes, n, count)`. Returns the number kept, or -1 when the line
+// fails: at the length or the limit with nothing kept, or on a read that
+// delivers nothing.
+//
+// A stream open for writing is asked for its length once and for its
+// position before every byte. A stream read alone (`counted`) has the bytes
+// it holds read ahead scanned as runs without asking for the length or the
+// position: they lie before the end of a file that only grows. Both are
+// asked for once the read-ahead is used up, the length once per line.
+template <typename Keep>
+std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u64 limit,
+                      Keep keep) {
+  u64 length = counted ? 0 : file.GetLength();
+  bool lengthKnown = !counted;
+  auto atEnd = [&] {
+    if (!lengthKnown) length = file.GetLength();
+    lengthKnown = true;
+    return file.GetPos() >= length;
+  };
   u64 count = 0;
   std::int64_t result = -1;
   flockfile(stream);
   for (;;) {
-    if (position() >= length || count >= limit) {
+    std::size_t const ahead = counted ? ReadAhead(stream) : 0;
+    if (count >= limit || (ahead == 0 && atEnd())) {
       if (count != 0) result = static_cast<std::int64_t>(count);
       break;
     }
+    if (ahead > 0) {
+      char const* bytes = ReadAheadBytes(stream);
+      auto const* lf = static_cast<char const*>(std::memchr(bytes, 10, ahead));
+      std::size_t const span = lf != nullptr ? static_cast<std::size_t>(lf - bytes) : ahead;
+      std::size_t used = 0;
+      while (used < span && count < limit) {
+        // The run up to the next dropped byte, the limit or the line feed.
+        char const* from = bytes + used;
+        std::size_t run = static_cast<std::size_t>(std::min<u64>(span - used, limit - count));
+        if (auto const* nul = static_cast<char const*>(std::memchr(from, 0, run))) {
+          run = static_cast<std::size_t>(nul - from);
+        }
+        if (auto const* cr = static_cast<char const*>(std::memchr(from, 13, run))) {
+          run = static_cast<std::size_t>(cr - from);
+        }
+        keep(from, run, count);
+        count += run;
+        used += run;
+        if (used < span && count < limit) ++used;  // the dropped byte
+      }
+      bool const ended = lf != nullptr && used == span && count < limit;
+      TakeReadAhead(stream, used + (ended ? 1 : 0));
+      if (ended) {
+        result = static_cast<std::int64_t>(count);
+        break;
+      }
+      continue;
+    }
     int const ch = getc_unlocked(stream);
     if (ch == EOF) break;
-    if (ch == 0 || ch == 13) continue;
     if (ch == 10) {
       result = static_cast<std::int64_t>(count);
       break;
     }
-    keep(static_cast<char>(ch), count);
+    if (IsDropped(ch)) continue;
+    char const kept = static_cast<char>(ch);
+    keep(&kept, 1, count);
     ++count;
   }
   funlockfile(stream);
   return result;
 }
+
+// The characters of a line being read: most lines fit the inline array, a
+// longer one moves to the heap.
+class LineText {
+ public:
+  void Append(char const* bytes, std::size_t n) {
+    if (m_Long.empty() && m_Size + n <= sizeof m_Short) {
+      std::memcpy(m_Short + m_Size, bytes, n);
+    } else {
+      if (m_Long.empty()) m_Long.assign(m_Short, m_Size);
+      m_Long.append(bytes, n);
+    }
+    m_Size += n;
+  }
+  char const* Data() const { return m_Long.empty() ? m_Short : m_Long.data(); }
+  std::size_t Size() const { return m_Size; }
+
+ private:
+  char m_Short[256];
+  std::size_t m_Size = 0;
+  std::string m_Long;
+};
 
 // The index behind the last '/' of `path`, 0 if it has none.
 u32 CutBehindLastSeparator(CZEL_String const& path) {
@@ -182,43 +265,33 @@ u64 CZEL_File::GetLength() const {
 
 u8 CZEL_File::IsEOF() const { return GetPos() >= GetLength() ? 1 : 0; }
 
-// A stream read alone moves one byte per byte read, so its position is
-// counted instead of asked for; a stream open for writing is asked each time.
 u32 CZEL_File::ReadTextLine(char* text, u32 maxChars) {
-  u64 const length = GetLength();
-  if (length == 0) return ZEL_ERR_IO;
-  u64 at = GetPos();
-  bool const counted = HasStableSize();
-  auto position = [&] { return counted ? at++ : GetPos(); };
-  std::int64_t const count =
-      ScanLine(m_Stream, length, maxChars, position, [text](char ch, u64 i) { text[i] = ch; });
+  if (m_Stream == nullptr) return ZEL_ERR_IO;
+  std::int64_t const count = ScanLine(
+      *this, m_Stream, HasStableSize(), maxChars,
+      [text](char const* bytes, std::size_t n, u64 at) { std::memcpy(text + at, bytes, n); });
   if (count < 0) return ZEL_ERR_IO;
   text[count] = 0;
   return ZEL_ERR_NONE;
 }
 
 u32 CZEL_File::ReadTextLine(CZEL_String& text) {
-  u64 const length = GetLength();
-  if (length == 0) return ZEL_ERR_READ_DENIED;
-  u64 at = GetPos();
-  bool const counted = HasStableSize();
-  auto position = [&] { return counted ? at++ : GetPos(); };
-  std::string line;
-  std::int64_t const count = ScanLine(m_Stream, length, UINT64_MAX, position,
-                                      [&line](char ch, u64) { line.push_back(ch); });
+  if (m_Stream == nullptr) return ZEL_ERR_READ_DENIED;
+  LineText line;
+  std::int64_t const count =
+      ScanLine(*this, m_Stream, HasStableSize(), UINT64_MAX,
+               [&line](char const* bytes, std::size_t n, u64) { line.Append(bytes, n); });
+  auto const kept = static_cast<u32>(line.Size());
   if (count >= 0) {
-    text = CZEL_String(line.data(), static_cast<u32>(line.size()));
-    return ZEL_ERR_NONE;
-  }
-  if (!line.empty()) {
+    text.SetLength(kept, ' ');
+  } else if (kept != 0) {
     // The line grows in steps of 100 characters, the first step taken on the
     // old text; what the failed read left is that text with the line on top.
-    auto const kept = static_cast<u32>(line.size());
     text.SetLength(100, ' ');
     text.SetLength((kept + 99) / 100 * 100, ' ');
-    std::memcpy(text.GetStringC(), line.data(), kept);
   }
-  return ZEL_ERR_READ_DENIED;
+  if (kept != 0) std::memcpy(text.GetStringC(), line.Data(), kept);
+  return count >= 0 ? ZEL_ERR_NONE : ZEL_ERR_READ_DENIED;
 }
 
 u32 CZEL_File::WriteText(char const* text) {

@@ -22,6 +22,18 @@ namespace zel_test {
 
 using Bytes = std::vector<unsigned char>;
 
+// The code of the CZEL_Exception that `run` throws, or 0: for the failures of
+// an object inside the one under test, whose address a test can't know.
+template <typename Run>
+ZEL::u32 CodeOf(Run run) {
+  try {
+    run();
+  } catch (CZEL_Exception const& e) {
+    return e.m_Code;
+  }
+  return 0;
+}
+
 inline std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
 
 // The whole content of the file at `path`; empty if it can't be read.
