@@ -57,17 +57,18 @@ TEST(Surface, EveryTemplateInstantiation) {
 // Default-constructs each named class and destroys it again.
 #define ZEL_SURFACE_NAMED_CLASSES(X)                                                               \
   X(CZEL_Int8List)                                                                                 \
-  X(CZEL_Int8Vector) X(CZEL_Uint8List) X(CZEL_Uint8Vector) X(CZEL_Int16List) X(CZEL_Int16Vector)   \
-      X(CZEL_Uint16List) X(CZEL_Uint16Vector) X(CZEL_Int32List) X(CZEL_Int32Vector)                \
-          X(CZEL_Uint32List) X(CZEL_Uint32Vector) X(CZEL_Int64List) X(CZEL_Int64Vector) X(         \
-              CZEL_Uint64List) X(CZEL_Uint64Vector) X(CZEL_FloatList) X(CZEL_FloatVector)          \
-              X(CZEL_DoubleList) X(CZEL_DoubleVector) X(CZEL_StringList) X(CZEL_StringVector) X(   \
-                  CZEL_BitSetList) X(CZEL_BitSetVector) X(CZEL_DecimalNumberList)                  \
-                  X(CZEL_DecimalNumberVector) X(CZEL_DateList) X(CZEL_DateVector) X(CZEL_TimeList) \
-                      X(CZEL_TimeVector) X(CZEL_IpAddressList) X(CZEL_IpAddressVector) X(          \
-                          CZEL_Int32PointList) X(CZEL_Int32PointVector) X(CZEL_DoublePointList)    \
-                          X(CZEL_DoublePointVector) X(CZEL_Int32SizeList) X(CZEL_Int32SizeVector)  \
-                              X(CZEL_Int32RectList) X(CZEL_Int32RectVector) X(CZEL_DoubleRectList) \
+  X(CZEL_Int8Vector)                                                                               \
+  X(CZEL_Uint8List) X(CZEL_Uint8Vector) X(CZEL_Int16List) X(CZEL_Int16Vector) X(CZEL_Uint16List)   \
+      X(CZEL_Uint16Vector) X(CZEL_Int32List) X(CZEL_Int32Vector) X(CZEL_Uint32List)                \
+          X(CZEL_Uint32Vector) X(CZEL_Int64List) X(CZEL_Int64Vector) X(CZEL_Uint64List)            \
+              X(CZEL_Uint64Vector) X(CZEL_FloatList) X(CZEL_FloatVector) X(CZEL_DoubleList) X(     \
+                  CZEL_DoubleVector) X(CZEL_StringList) X(CZEL_StringVector) X(CZEL_BitSetList)    \
+                  X(CZEL_BitSetVector) X(CZEL_DecimalNumberList) X(CZEL_DecimalNumberVector) X(    \
+                      CZEL_DateList) X(CZEL_DateVector) X(CZEL_TimeList) X(CZEL_TimeVector)        \
+                      X(CZEL_IpAddressList) X(CZEL_IpAddressVector) X(CZEL_Int32PointList) X(      \
+                          CZEL_Int32PointVector) X(CZEL_DoublePointList) X(CZEL_DoublePointVector) \
+                          X(CZEL_Int32SizeList) X(CZEL_Int32SizeVector) X(CZEL_Int32RectList)      \
+                              X(CZEL_Int32RectVector) X(CZEL_DoubleRectList)                       \
                                   X(CZEL_DoubleRectVector) X(CZEL_Int32Point) X(CZEL_DoublePoint)  \
                                       X(CZEL_Int32Size) X(CZEL_DoubleSize) X(CZEL_Int32Rect)       \
                                           X(CZEL_DoubleRect) X(CZEL_Object) X(CZEL_Exception)      \
@@ -87,6 +88,9 @@ TEST(Surface, EveryClass) {
   ZEL_SURFACE_NAMED_CLASSES(ZEL_SURFACE_CONSTRUCT)
 #undef ZEL_SURFACE_CONSTRUCT
   EXPECT_GT(constructed, 60u);
+  CZEL_CsvFile csv(3, ';', CZEL_File::LINE_END_LF);
+  CZEL_StringVector record(3);
+  EXPECT_NE(csv.WriteRecord(record), ZEL_ERR_NONE);  // no file open
   CZEL_DecimalNumber decimal(2, ZEL::i64(7));
   CZEL_BitSet bits(4, 1);
   CZEL_BitSet::CBit bit = bits[0];
@@ -141,6 +145,21 @@ TEST(Surface, EveryFreeFunction) {
               ("b" >= text));
   CZEL_DecimalNumber two(0, ZEL::i64(2));
   EXPECT_EQ((ZEL::i64(3) * two).GetIntegral(), 6u);
+
+  // The stream forms of the value classes, there and back.
+  CZEL_MemoryBuffer stream;
+  stream << text << CZEL_Color(1, 2, 3) << CZEL_Date(2000, 1, 1) << CZEL_Time(1, 2, 3, 4)
+         << CZEL_IpAddress(CZEL_String("1.2.3.4"));
+  stream.ToStart();
+  CZEL_String text2;
+  CZEL_Color color;
+  CZEL_Date date;
+  CZEL_Time time;
+  CZEL_IpAddress address;
+  stream >> text2 >> color >> date >> time >> address;
+  EXPECT_TRUE(text2 == text && date == CZEL_Date(2000, 1, 1) && time == CZEL_Time(1, 2, 3, 4) &&
+              address == CZEL_IpAddress(CZEL_String("1.2.3.4")));
+  EXPECT_EQ(color.GetUnsignedColor(), CZEL_Color(1, 2, 3).GetUnsignedColor());
 }
 
 }  // namespace
