@@ -40,7 +40,7 @@ TEST(CZEL_ListConstruction, SourcesAndAssignment) {
       {"1 2 [3]", [](L& l) { l = Lv(Parse("7 [8]")); }, "[7] 8"},  // cursor to the head
       {"1 2 [3]", [](L& l) { (l = Lv(Parse("7 [8]"))).ToEnd(); }, "7 [8]"},
       {"1 [2]", [](L& l) { l = Lv(Parse("4 5 6 [7]")); }, "[4] 5 6 7"},
-      {"1 [2] 3", [](L& l) { l = l; }, "1 [2] 3"},
+      {"1 [2] 3", [](L& l) { l = *&l; }, "1 [2] 3"},
   });
   L a = Parse("1 2 [3]"), none;
   void* head = &a.ToStart();

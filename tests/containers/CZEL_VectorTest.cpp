@@ -56,7 +56,7 @@ TEST(CZEL_VectorSizing, CreateRecreateAppendAssign) {
        [](V& v) { v &= Lv(V()), v.AppendVector(Lv(V())), v.Recreate(4, 0, v[1]); },
        "1 2 2 2"},
       {{1, 2}, [](V& v) { v.AppendItem(v[0]), v += 9, v &= Lv(MakeVector({3})); }, "1 2 1 9 3"},
-      {{1, 2}, [](V& v) { v = v; }, "1 2"},
+      {{1, 2}, [](V& v) { v = *&v; }, "1 2"},
       {{1, 2}, [](V& v) { v = V(); }, ""},
       {{1, 2, 3}, [](V& v) { v[3]; }, "throws BAD_POSITION; 1 2 3"},
   });

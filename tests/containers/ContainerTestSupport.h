@@ -39,22 +39,10 @@ inline V MakeVector(IntList items) {
   return v;
 }
 
-// A list of the items built by appending, with the cursor on position `cursor`.
-inline L MakeList(IntList const& items, ZEL::u32 cursor = 0) {
-  L list;
-  for (int item : items) list += item;
-  if (!items.empty()) list.ToPos(cursor);
-  return list;
-}
-
-// The first `count` items of a vector (the rest may be unset), or all of them.
-template <typename T>
-std::vector<T> Front(CZEL_Vector<T> const& v, ZEL::u32 count) {
-  return std::vector<T>(v.GetBuf(), v.GetBuf() + count);
-}
+// All items of a vector.
 template <typename T>
 std::vector<T> Items(CZEL_Vector<T> const& v) {
-  return Front(v, v.GetLength());
+  return std::vector<T>(v.GetBuf(), v.GetBuf() + v.GetLength());
 }
 
 // The items along the forward links from the head, the cursor's node in
