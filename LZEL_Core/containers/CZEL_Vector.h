@@ -568,7 +568,7 @@ CZEL_Vector<T>& CZEL_Vector<T>::InsertItems(ZEL::u32 pos, T const& value, ZEL::u
                                             ZEL::u8 extend) {
   if (extend) {
     // The growth releases the array that `value` may lie in: keep a copy.
-    T const kept(value);
+    T const kept(value);  // NOLINT(performance-unnecessary-copy-initialization)
     OpenGap(pos, count, extend);
     WriteRun(pos, kept, count);
   } else {
@@ -598,7 +598,8 @@ template <typename T>
 CZEL_Vector<T>& CZEL_Vector<T>::Fill(T const& value, ZEL::u32 start, ZEL::u32 count,
                                      ZEL::u8 extend) {
   if (count == 0) return *this;
-  T const kept(value);  // an extension may release the array that value lies in
+  // An extension may release the array that value lies in: keep a copy.
+  T const kept(value);  // NOLINT(performance-unnecessary-copy-initialization)
   FitRange(start, count, extend);
   WriteRun(start, kept, count);
   return *this;

@@ -76,6 +76,7 @@ u8 CZEL_Code::CFormatNode::operator!=(CFormatNode const&) const { return 0; }
 // The templates have no moving constructors, so a move copies the nodes.
 CZEL_Code::CFormatList::CFormatList() : CZEL_List<CFormatNode>() {}
 CZEL_Code::CFormatList::CFormatList(CFormatList const& src) : CZEL_List<CFormatNode>(src) {}
+// NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
 CZEL_Code::CFormatList::CFormatList(CFormatList&& src) : CZEL_List<CFormatNode>(src) {}
 CZEL_Code::CFormatList::~CFormatList() = default;
 
@@ -86,6 +87,7 @@ CZEL_Code::CFormatList& CZEL_Code::CFormatList::operator=(CFormatList const& src
 
 CZEL_Code::CFormatVector::CFormatVector() : CZEL_Vector<CFormatNode>() {}
 CZEL_Code::CFormatVector::CFormatVector(CFormatVector const& src) : CZEL_Vector<CFormatNode>(src) {}
+// NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
 CZEL_Code::CFormatVector::CFormatVector(CFormatVector&& src) : CZEL_Vector<CFormatNode>(src) {}
 CZEL_Code::CFormatVector::~CFormatVector() = default;
 

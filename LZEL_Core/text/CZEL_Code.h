@@ -87,6 +87,7 @@ class ZEL_API CZEL_Code : public CZEL_Object {
    public:
     CFormatList();
     CFormatList(CFormatList const& src);
+    // NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
     CFormatList(CFormatList&& src);
     ~CFormatList() override;
     CFormatList& operator=(CFormatList const& src);
@@ -97,6 +98,7 @@ class ZEL_API CZEL_Code : public CZEL_Object {
    public:
     CFormatVector();
     CFormatVector(CFormatVector const& src);
+    // NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
     CFormatVector(CFormatVector&& src);
     ~CFormatVector() override;
     CFormatVector& operator=(CFormatVector const& src);

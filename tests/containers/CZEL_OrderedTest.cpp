@@ -53,21 +53,16 @@ TEST(CZEL_OrderedExtremes, FirstOfEqualExtremesIsTheItemItself) {
   EXPECT_EQ(&d.Max(), d.GetBuf());
 }
 
-TEST(CZEL_OrderedSort, ListSortsBothWays) {
+TEST(CZEL_OrderedSort, ListSortsBothWaysVectorSortIsTheVectorsSort) {
   int raw[] = {3, 1, 2};
   CZEL_OrderedList<int> list(raw, 3);
   EXPECT_EQ(Show(list.Sort(1)), "1 2 [3]");  // the cursor stays on its node
   EXPECT_EQ(Show(list.Sort(0)), "[3] 2 1");
   ZEL::u64 big[] = {1, 0xFFFFFFFFFFFFFFFFull, 0};
-  CZEL_Uint64List wide(big, 3);
-  EXPECT_EQ(Show(wide.Sort(1)), "0 [1] 18446744073709551615");
-}
-
-TEST(CZEL_OrderedSort, VectorSortIsTheVectorsSort) {
+  EXPECT_EQ(Show(Lv(CZEL_Uint64List(big, 3)).Sort(1)), "0 [1] 18446744073709551615");
   CZEL_OrderedVector<int> empty;
   EXPECT_ZEL_THROW(empty.Sort(1), ZEL_ERR_INVALID_ARGUMENT, &empty);
-  CZEL_Int32Vector one(1u, 4);
-  EXPECT_EQ(one.Sort(1)[0], 4);
+  EXPECT_EQ(CZEL_Int32Vector(1u, 4).Sort(1)[0], 4);
 }
 
 // Named classes ------------------------------------------------------------------

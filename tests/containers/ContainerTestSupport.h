@@ -39,22 +39,10 @@ inline V MakeVector(IntList items) {
   return v;
 }
 
-// A list of the items built by appending, with the cursor on position `cursor`.
-inline L MakeList(IntList const& items, ZEL::u32 cursor = 0) {
-  L list;
-  for (int item : items) list += item;
-  if (!items.empty()) list.ToPos(cursor);
-  return list;
-}
-
-// The first `count` items of a vector (the rest may be unset), or all of them.
-template <typename T>
-std::vector<T> Front(CZEL_Vector<T> const& v, ZEL::u32 count) {
-  return std::vector<T>(v.GetBuf(), v.GetBuf() + count);
-}
+// All items of a vector.
 template <typename T>
 std::vector<T> Items(CZEL_Vector<T> const& v) {
-  return Front(v, v.GetLength());
+  return std::vector<T>(v.GetBuf(), v.GetBuf() + v.GetLength());
 }
 
 // The items along the forward links from the head, the cursor's node in
@@ -64,15 +52,83 @@ std::string Show(CZEL_List<T>& list) {
   void* const cursor = list.CurItemRef();
   std::ostringstream out;
   if (list.GetLength() == 0) return out.str();
-  for (list.ToStart();; list.Next(1)) {
+  for (list.ToStart(); list.CurItemRef() != nullptr; list.Next(1)) {
     if (list.CurItemRef() == cursor) {
       out << '[' << list.CurItem() << ']';
     } else {
       out << list.CurItem();
     }
-    if (list.ItemsToEnd() == 0) return out.str();
+    if (list.ItemsToEnd() == 0) break;
     out << ' ';
   }
+  return out.str();
+}
+
+// A list from its text: "1 [2] 3" holds 1, 2, 3 with the cursor on 2.
+inline L Parse(std::string const& text) {
+  L list;
+  std::istringstream in(text);
+  std::string word;
+  ZEL::u32 cursor = 0;
+  for (ZEL::u32 n = 0; in >> word; ++n) {
+    if (word.front() == '[') {
+      cursor = n;
+      word = word.substr(1, word.size() - 2);
+    }
+    list += std::stoi(word);
+  }
+  if (list.GetLength() != 0) list.ToPos(cursor);
+  return list;
+}
+
+// A container as text: a vector's items; a list's Show, with a note of its
+// length when the forward links reach fewer nodes than it counts, and of its
+// cursor counts when they disagree with where the links show the cursor.
+template <typename T>
+std::string Text(CZEL_Vector<T> const& v) {
+  std::ostringstream out;
+  for (ZEL::u32 i = 0; i < v.GetLength(); ++i) out << (i ? " " : "") << v.GetBuf()[i];
+  return out.str();
+}
+template <typename T>
+std::string Text(CZEL_List<T>& list) {
+  ZEL::u32 const from = list.ItemsFromStart(), to = list.ItemsToEnd();
+  std::string const shown = Show(list);
+  std::istringstream in(shown);
+  std::string word;
+  ZEL::u32 reached = 0, at = ~0u;
+  for (; in >> word; ++reached) at = word.front() == '[' ? reached : at;
+  std::ostringstream notes;
+  if (reached != list.GetLength()) notes << "; length " << list.GetLength();
+  if (reached != 0 && (from != at || to != reached - 1 - at)) notes << "; at " << from << ":" << to;
+  if (notes.str().empty()) return shown;
+  return shown + (shown.empty() ? "(" : " (") + notes.str().substr(2) + ")";
+}
+
+// What an edit of `c` did: the container's text afterwards, preceded by
+// "throws <code>; " when it threw (" by another" when the exception names some
+// other object, " extra" when its extra value isn't 0).
+template <typename C, typename Edit>
+std::string Outcome(C& c, Edit const& edit) {
+  try {
+    edit(c);
+    return Text(c);
+  } catch (CZEL_Exception const& e) {
+    char const* const names[] = {"", "", "INVALID_ARGUMENT", "", "", "BAD_POSITION", "",
+                                 "", "", "EMPTY_INPUT"};
+    std::string out = "throws ";
+    out += e.m_Code < 10 ? names[e.m_Code] : std::to_string(e.m_Code);
+    if (e.m_Object != static_cast<void const*>(&c)) out += " by another";
+    if (e.m_Extra != 0) out += " extra";
+    return out + "; " + Text(c);
+  }
+}
+
+// A temporary as an lvalue, for sources taken by reference; it lives to the
+// end of the full expression.
+template <typename T>
+T& Lv(T&& temporary) {
+  return temporary;
 }
 
 // The list's cursor item, or -1 for no cursor.
