@@ -58,7 +58,8 @@ TEST(Surface, EveryTemplateInstantiation) {
 #define ZEL_SURFACE_NAMED_CLASSES(X)                                                               \
   X(CZEL_Int8List)                                                                                 \
   X(CZEL_Int8Vector)                                                                               \
-  X(CZEL_Uint8List) X(CZEL_Uint8Vector) X(CZEL_Int16List) X(CZEL_Int16Vector) X(CZEL_Uint16List)   \
+  X(CZEL_Uint8List)                                                                                \
+  X(CZEL_Uint8Vector) X(CZEL_Int16List) X(CZEL_Int16Vector) X(CZEL_Uint16List)                     \
       X(CZEL_Uint16Vector) X(CZEL_Int32List) X(CZEL_Int32Vector) X(CZEL_Uint32List)                \
           X(CZEL_Uint32Vector) X(CZEL_Int64List) X(CZEL_Int64Vector) X(CZEL_Uint64List)            \
               X(CZEL_Uint64Vector) X(CZEL_FloatList) X(CZEL_FloatVector) X(CZEL_DoubleList) X(     \
