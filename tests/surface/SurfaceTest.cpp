@@ -55,28 +55,65 @@ TEST(Surface, EveryTemplateInstantiation) {
 }
 
 // Default-constructs each named class and destroys it again.
-#define ZEL_SURFACE_NAMED_CLASSES(X)                                                               \
-  X(CZEL_Int8List)                                                                                 \
-  X(CZEL_Int8Vector)                                                                               \
-  X(CZEL_Uint8List)                                                                                \
-  X(CZEL_Uint8Vector) X(CZEL_Int16List) X(CZEL_Int16Vector) X(CZEL_Uint16List)                     \
-      X(CZEL_Uint16Vector) X(CZEL_Int32List) X(CZEL_Int32Vector) X(CZEL_Uint32List)                \
-          X(CZEL_Uint32Vector) X(CZEL_Int64List) X(CZEL_Int64Vector) X(CZEL_Uint64List)            \
-              X(CZEL_Uint64Vector) X(CZEL_FloatList) X(CZEL_FloatVector) X(CZEL_DoubleList) X(     \
-                  CZEL_DoubleVector) X(CZEL_StringList) X(CZEL_StringVector) X(CZEL_BitSetList)    \
-                  X(CZEL_BitSetVector) X(CZEL_DecimalNumberList) X(CZEL_DecimalNumberVector) X(    \
-                      CZEL_DateList) X(CZEL_DateVector) X(CZEL_TimeList) X(CZEL_TimeVector)        \
-                      X(CZEL_IpAddressList) X(CZEL_IpAddressVector) X(CZEL_Int32PointList) X(      \
-                          CZEL_Int32PointVector) X(CZEL_DoublePointList) X(CZEL_DoublePointVector) \
-                          X(CZEL_Int32SizeList) X(CZEL_Int32SizeVector) X(CZEL_Int32RectList)      \
-                              X(CZEL_Int32RectVector) X(CZEL_DoubleRectList)                       \
-                                  X(CZEL_DoubleRectVector) X(CZEL_Int32Point) X(CZEL_DoublePoint)  \
-                                      X(CZEL_Int32Size) X(CZEL_DoubleSize) X(CZEL_Int32Rect)       \
-                                          X(CZEL_DoubleRect) X(CZEL_Object) X(CZEL_Exception)      \
-                                              X(CZEL_Dumper) X(CZEL_Mutex) X(CZEL_String)          \
-                                                  X(CZEL_Code) X(CZEL_BitSet) X(CZEL_Register)     \
-                                                      X(CZEL_Crc) X(CZEL_Date) X(CZEL_Time)        \
-                                                          X(CZEL_Color) X(CZEL_IpAddress)
+#define ZEL_SURFACE_NAMED_CLASSES(X) \
+  X(CZEL_Int8List)                   \
+  X(CZEL_Int8Vector)                 \
+  X(CZEL_Uint8List)                  \
+  X(CZEL_Uint8Vector)                \
+  X(CZEL_Int16List)                  \
+  X(CZEL_Int16Vector)                \
+  X(CZEL_Uint16List)                 \
+  X(CZEL_Uint16Vector)               \
+  X(CZEL_Int32List)                  \
+  X(CZEL_Int32Vector)                \
+  X(CZEL_Uint32List)                 \
+  X(CZEL_Uint32Vector)               \
+  X(CZEL_Int64List)                  \
+  X(CZEL_Int64Vector)                \
+  X(CZEL_Uint64List)                 \
+  X(CZEL_Uint64Vector)               \
+  X(CZEL_FloatList)                  \
+  X(CZEL_FloatVector)                \
+  X(CZEL_DoubleList)                 \
+  X(CZEL_StringList)                 \
+  X(CZEL_StringVector)               \
+  X(CZEL_BitSetList)                 \
+  X(CZEL_BitSetVector)               \
+  X(CZEL_DecimalNumberList)          \
+  X(CZEL_DecimalNumberVector)        \
+  X(CZEL_DateVector)                 \
+  X(CZEL_TimeList)                   \
+  X(CZEL_TimeVector)                 \
+  X(CZEL_IpAddressList)              \
+  X(CZEL_IpAddressVector)            \
+  X(CZEL_Int32PointList)             \
+  X(CZEL_DoublePointList)            \
+  X(CZEL_DoublePointVector)          \
+  X(CZEL_Int32SizeList)              \
+  X(CZEL_Int32SizeVector)            \
+  X(CZEL_Int32RectList)              \
+  X(CZEL_Int32RectVector)            \
+  X(CZEL_DoubleRectList)             \
+  X(CZEL_DoubleRectVector)           \
+  X(CZEL_Int32Point)                 \
+  X(CZEL_DoublePoint)                \
+  X(CZEL_Int32Size)                  \
+  X(CZEL_DoubleSize)                 \
+  X(CZEL_Int32Rect)                  \
+  X(CZEL_DoubleRect)                 \
+  X(CZEL_Object)                     \
+  X(CZEL_Exception)                  \
+  X(CZEL_Dumper)                     \
+  X(CZEL_Mutex)                      \
+  X(CZEL_String)                     \
+  X(CZEL_Code)                       \
+  X(CZEL_BitSet)                     \
+  X(CZEL_Register)                   \
+  X(CZEL_Crc)                        \
+  X(CZEL_Date)                       \
+  X(CZEL_Time)                       \
+  X(CZEL_Color)                      \
+  X(CZEL_IpAddress)
 
 TEST(Surface, EveryClass) {
   u32 constructed = 0;
