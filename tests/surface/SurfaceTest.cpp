@@ -75,18 +75,21 @@ TEST(Surface, EveryTemplateInstantiation) {
   X(CZEL_FloatList)                  \
   X(CZEL_FloatVector)                \
   X(CZEL_DoubleList)                 \
+  X(CZEL_DoubleVector)               \
   X(CZEL_StringList)                 \
   X(CZEL_StringVector)               \
   X(CZEL_BitSetList)                 \
   X(CZEL_BitSetVector)               \
   X(CZEL_DecimalNumberList)          \
   X(CZEL_DecimalNumberVector)        \
+  X(CZEL_DateList)                   \
   X(CZEL_DateVector)                 \
   X(CZEL_TimeList)                   \
   X(CZEL_TimeVector)                 \
   X(CZEL_IpAddressList)              \
   X(CZEL_IpAddressVector)            \
   X(CZEL_Int32PointList)             \
+  X(CZEL_Int32PointVector)           \
   X(CZEL_DoublePointList)            \
   X(CZEL_DoublePointVector)          \
   X(CZEL_Int32SizeList)              \
@@ -113,7 +116,12 @@ TEST(Surface, EveryTemplateInstantiation) {
   X(CZEL_Date)                       \
   X(CZEL_Time)                       \
   X(CZEL_Color)                      \
-  X(CZEL_IpAddress)
+  X(CZEL_IpAddress)                  \
+  X(CZEL_File)                       \
+  X(CZEL_Buffer)                     \
+  X(CZEL_MemoryBuffer)               \
+  X(CZEL_FileBuffer)                 \
+  X(CZEL_WinBitmapData)
 
 TEST(Surface, EveryClass) {
   u32 constructed = 0;
