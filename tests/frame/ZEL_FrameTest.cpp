@@ -51,6 +51,7 @@ TEST(ZEL_PrimitivesBits, FieldMaskAndBitPositionsAtTheEdges) {
     EXPECT_EQ(WithField(u64{0}, r.start, r.width, kAll), r.mask);
   }
   EXPECT_EQ(WithField(u16{0}, 12, 8, u16{0xFFFF}), 0xF000u);
+  EXPECT_EQ(WithField(u8{0x5A}, 8, 1, u8{0xFF}), 0x5Au);
   EXPECT_EQ(WithBit(u8{0}, 39, 0x80), 0x80u);
   EXPECT_EQ(WithBit(u16{0}, 32, 1), 1u);
   EXPECT_EQ(WithBit(kMaxU32, 32, 0), kMaxU32);

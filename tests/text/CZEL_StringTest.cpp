@@ -66,6 +66,7 @@ TEST(CZEL_StringTest, EditsAtTheirBounds) {
            EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),
            EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
            GET("abc", Left(99), "abc"),
+           GET("abc", Right(99), "abc"),
            EDIT("abc", ResizeLeft(4), "abc"),
            EDIT("abc", ResizeRight(4), "abc"),
            GET("abc", Mid(1, 0xFFFFFFFF), "bc"),
@@ -74,6 +75,7 @@ TEST(CZEL_StringTest, EditsAtTheirBounds) {
            EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),
            EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
            EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),
+           EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
            EDIT("abc", Insert('x', 4), "abc"),
            EDIT("abc", RemoveChars(1, 99), "a"),
            EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),
@@ -84,6 +86,7 @@ TEST(CZEL_StringTest, EditsAtTheirBounds) {
            EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3), "aXYZabcd"),  // 4 - 1 - ~0: 4
            EDIT("  a  ", Trim(' ', 1), "a  "),
            EDIT("  a  ", Trim(' ', 2), "  a"),
+           EDIT("  a  ", Trim(' ', 3), "a"),
            EDIT("  a  ", Trim(' ', 4), "  a  "),
            EDIT("   ", Trim(' ', 3), ""),
            FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."),
