@@ -50,115 +50,89 @@ struct Edit {
 #define FIT(start, width, align, expected) \
   EDIT(start, SetFormatted(width, static_cast<CZEL_String::t_Align>(align), '.'), expected)
 
-void RunEdits(std::initializer_list<Edit> edits) {
-  for (Edit const& e : edits) {
+// The source may be the string itself. Out of range, Left gives the whole
+// string, ResizeLeft changes nothing and ResizeMid empties the string. Insert
+// inserts nothing once `srcStart` reaches the cut `count`. ReplaceChars
+// removes the whole `count`; ReplaceString keeps a tail only while
+// length - pos - oldCount, signed, is above 0. Centred text starts at
+// (width - length) / 2, or at 0 when it doesn't fit.
+TEST(CZEL_StringTest, EditsAtTheirBounds) {
+  std::string const longText(100000, 'q');
+  for (Edit const& e : {
+           EXPR("abc", s = static_cast<CZEL_String const&>(s), "abc"),
+           EXPR("xyz", s = s.GetStringC() + 1, "yz"),
+           EXPR("ab", s += s, "abab"),
+           EXPR("x", s += CZEL_String("ab\0c", 4), "xab\0c"s),
+           EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),
+           EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
+           GET("abc", Left(99), "abc"),
+           GET("abc", Right(99), "abc"),
+           EDIT("abc", ResizeLeft(4), "abc"),
+           EDIT("abc", ResizeRight(4), "abc"),
+           GET("abc", Mid(1, 0xFFFFFFFF), "bc"),
+           EDIT("abc", ResizeMid(3, 1), ""),
+           GET("abc", Mid(3, 1), ""),
+           EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),
+           EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
+           EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),
+           EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
+           EDIT("abc", Insert('x', 4), "abc"),
+           EDIT("abc", RemoveChars(1, 99), "a"),
+           EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),
+           EDIT("abcd", ReplaceChars(kXY, 1, 1, 2), "aYd"),
+           EDIT("abcd", ReplaceChars(kXY, 9, 0, 2), "abcdXY"),
+           EDIT("abcd", ReplaceString(kXYZ, 1, 9, 0, 3), "aXYZ"),
+           EDIT("abcd", ReplaceString(kXYZ, 1, 1, 0, 3), "aXYZcd"),
+           EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3), "aXYZabcd"),  // 4 - 1 - ~0: 4
+           EDIT("  a  ", Trim(' ', 1), "a  "),
+           EDIT("  a  ", Trim(' ', 2), "  a"),
+           EDIT("  a  ", Trim(' ', 3), "a"),
+           EDIT("  a  ", Trim(' ', 4), "  a  "),
+           EDIT("   ", Trim(' ', 3), ""),
+           FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."),
+           FIT("ab", 3, CZEL_String::ALIGN_CENTER, "ab."),
+           FIT("abcd", 2, CZEL_String::ALIGN_RIGHT, "cd"),
+           FIT("abcd", 2, CZEL_String::ALIGN_CENTER, "ab"),
+           FIT("abcd", 3, 7, "..."),
+           EDIT("abc", Format("<%s>", std::string(100000, 'q').c_str()), "<" + longText + ">"),
+       }) {
+    SCOPED_TRACE(::testing::Message() << e.expr << " on \"" << e.start << '"');
     CZEL_String s = Make(e.start);
-    EXPECT_EQ(&e.edit(s), &s) << e.expr;
-    EXPECT_TRUE(Holds(s, e.expected)) << e.expr << " on \"" << e.start << '"';
+    EXPECT_EQ(&e.edit(s), &s);
+    EXPECT_TRUE(Holds(s, e.expected));
   }
 }
 
-// The source may be the string itself.
-TEST(CZEL_StringTest, SelfAssignAndAppend) {
-  RunEdits({
-      EXPR("abc", s = static_cast<CZEL_String const&>(s), "abc"),
-      EXPR("xyz", s = s.GetStringC() + 1, "yz"),
-      EXPR("ab", s += s, "abab"),
-      EXPR("x", s += CZEL_String("ab\0c", 4), "xab\0c"s),
-      EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),
-      EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
-  });
-}
-
-// Out of range, Left gives the whole string, ResizeLeft changes nothing and
-// ResizeMid empties the string. Insert inserts nothing once `srcStart`
-// reaches the cut `count`. ReplaceChars removes the whole `count`;
-// ReplaceString keeps a tail only while length - pos - oldCount, signed, is above 0.
-TEST(CZEL_StringTest, OutOfRangeEdits) {
-  RunEdits({
-      GET("abc", Left(99), "abc"),
-      EDIT("abc", ResizeLeft(4), "abc"),
-      GET("abc", Right(99), "abc"),
-      EDIT("abc", ResizeRight(4), "abc"),
-      GET("abc", Mid(1, 0xFFFFFFFF), "bc"),
-      EDIT("abc", ResizeMid(1, 99), "bc"),
-      EDIT("abc", ResizeMid(3, 1), ""),
-      GET("abc", Mid(3, 1), ""),
-      EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),
-      EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
-      EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),
-      EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
-      EDIT("abc", Insert('x', 4), "abc"),
-      EDIT("abc", RemoveChars(1, 99), "a"),
-      EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),
-      EDIT("abcd", ReplaceChars(kXY, 1, 1, 2), "aYd"),
-      EDIT("abcd", ReplaceChars(kXY, 9, 0, 2), "abcdXY"),
-      EDIT("abcd", ReplaceString(kXYZ, 1, 9, 0, 3), "aXYZ"),
-      EDIT("abcd", ReplaceString(kXYZ, 1, 1, 0, 3), "aXYZcd"),
-      EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3),
-           "aXYZabcd"),  // 4 - 1 - 0xFFFFFFFF wraps to 4
-  });
-}
-
-// Centred text starts at (width - length) / 2, or at 0 when it doesn't fit.
-TEST(CZEL_StringTest, TrimAndSetFormatted) {
-  RunEdits({
-      EDIT("  a  ", Trim(' ', 1), "a  "),
-      EDIT("  a  ", Trim(' ', 2), "  a"),
-      EDIT("  a  ", Trim(' ', 3), "a"),
-      EDIT("  a  ", Trim(' ', 4), "  a  "),
-      EDIT("   ", Trim(' ', 2), ""),
-      FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."),
-      FIT("ab", 3, CZEL_String::ALIGN_CENTER, "ab."),
-      FIT("abcd", 2, CZEL_String::ALIGN_RIGHT, "cd"),
-      FIT("abcd", 2, CZEL_String::ALIGN_CENTER, "ab"),
-      FIT("abcd", 3, 7, "..."),
-      EDIT("abc", Format("<%s>", std::string(100000, 'q').c_str()),
-           "<" + std::string(100000, 'q') + ">"),
-  });
-}
-
-TEST(CZEL_StringTest, FromNumberGroups) {
-  struct Case {
+TEST(CZEL_StringTest, NumbersToAndFromText) {
+  struct Group {
     ZEL::u64 value;
     ZEL::u32 radix, group;
     char separator;
     std::string expected;
-  } const cases[] = {
-      {999, 10, 3, ',', "999"},
-      {1234567, 10, 3, ',', "1,234,567"},
-      {36, 37, 0, ',', "{"},
-      {std::numeric_limits<ZEL::u64>::max(), 10, 3, '\0',
-       "18\0"
-       "446\0"
-       "744\0"
-       "073\0"
-       "709\0"
-       "551\0"
-       "615"s},
-  };
-  for (Case const& c : cases) {
-    EXPECT_TRUE(Holds(CZEL_String::FromNumber(c.value, c.radix, c.group, c.separator), c.expected))
-        << c.value;
+  } const groups[] = {{999, 10, 3, ',', "999"},
+                      {1234567, 10, 3, ',', "1,234,567"},
+                      {36, 37, 0, ',', "{"},
+                      {std::numeric_limits<ZEL::u64>::max(), 10, 3, '\0',
+                       "18\000446\000744\000073\000709\000551\000615"s}};
+  for (Group const& g : groups) {
+    EXPECT_TRUE(Holds(CZEL_String::FromNumber(g.value, g.radix, g.group, g.separator), g.expected))
+        << g.value;
   }
-}
-
-// Mode 1 reads the marker before the number, mode 2 after it.
-TEST(CZEL_StringTest, ToUnsignedAutoRadix) {
-  struct Case {
+  // Mode 1 reads the marker before the number, mode 2 after it.
+  struct Auto {
     ZEL::u32 mode;
     std::string text;
     ZEL::u64 expected;
-  } const cases[] = {
+  } const autos[] = {
       {1, "0x1F", 31}, {1, "O17", 15},    {1, "1F", 1},     {1, "B101", 0},   {1, "HO17", 15},
       {1, "[12", 12},  {1, "H", 0},       {1, "H1F  ", 31}, {1, "  H1F", 0},  {1, "  0x1F", 31},
       {1, " 0x1F", 0}, {2, "1fh", 31},    {2, "17O", 15},   {2, "101B", 101}, {2, "ABCh", 2748},
       {2, "12XH", 12}, {2, "1F\0H"s, 31}, {2, "\t1FH", 31}, {2, "1FH ", 1},   {2, "   ", 0},
       {0, "1FH", 0},   {3, "H1F", 0},
   };
-  for (Case const& c : cases) {
-    EXPECT_EQ(Make(c.text).ToUnsignedAutoRadix(c.mode), c.expected)
-        << "mode " << c.mode << " on " << c.text;
+  for (Auto const& a : autos) {
+    EXPECT_EQ(Make(a.text).ToUnsignedAutoRadix(a.mode), a.expected)
+        << "mode " << a.mode << " on " << a.text;
   }
 }
 
@@ -173,95 +147,58 @@ TEST(CZEL_StringTest, CompareOrdersSignedBytes) {
       {"abc", "ABC", 1, 0}, {"_", "z", -1, 1},
   };
   for (Case const& c : cases) {
+    SCOPED_TRACE(::testing::Message() << c.a << " / " << c.b);
     CZEL_String a(c.a);
     CZEL_String const b(c.b);
-    EXPECT_EQ(CZEL_String::CS_Compare(c.a, c.b), c.matching) << c.a << " / " << c.b;
-    EXPECT_EQ(a.CompareNoMatchingCase(b), c.blind) << c.a << " / " << c.b;
-    EXPECT_EQ(a < b, c.matching < 0) << c.a << " / " << c.b;
+    EXPECT_EQ(CZEL_String::CS_Compare(c.a, c.b), c.matching);
+    EXPECT_EQ(a.CompareNoMatchingCase(b), c.blind);
+    EXPECT_EQ(a < b, c.matching < 0);
   }
 }
 
 // FindFromEnd of a character from the length finds the terminator; FindFromBegin doesn't.
+// A pattern found from the end may reach past `start`.
 TEST(CZEL_StringTest, SearchBounds) {
   CZEL_String const s("abcabc");
+  CZEL_String const bc("bc");
   ZEL::u32 pos = 777;
-  EXPECT_EQ(s.FindFromBegin('\0', &pos, 0), 0);
-  EXPECT_EQ(s.FindFromBegin('a', &pos, 6), 0);
+  EXPECT_EQ(s.FindFromBegin('\0', &pos, 0) + s.FindFromBegin('a', &pos, 6), 0);
+  EXPECT_EQ(s.FindFromEnd('\0', &pos, 7) + s.FindFromEnd(bc, &pos, 1, 0), 0);
+  EXPECT_EQ(s.FindFromBegin(bc, &pos, 1, 5) + s.FindFromBegin(CZEL_String(""), &pos, 1, 0), 0);
   EXPECT_EQ(pos, 777u);
-  EXPECT_EQ(s.FindFromEnd('\0', &pos, 7), 0);
   EXPECT_TRUE(s.FindFromEnd('\0', &pos, 6) && pos == 6);
   EXPECT_TRUE(s.FindFromEnd('c', &pos, 99) && pos == 5);
-  EXPECT_TRUE(s.FindFromBegin(CZEL_String("bc"), &pos, 1, 4) && pos == 4);
-  EXPECT_EQ(s.FindFromBegin(CZEL_String("bc"), &pos, 1, 5), 0);
-  EXPECT_TRUE(s.FindFromEnd(CZEL_String("bc"), &pos, 1, 1) &&
-              pos == 1);  // the match reaches past start
-  EXPECT_EQ(s.FindFromEnd(CZEL_String("bc"), &pos, 1, 0), 0);
-  EXPECT_EQ(s.FindFromBegin(CZEL_String(""), &pos, 1, 0), 0);
+  EXPECT_TRUE(s.FindFromBegin(bc, &pos, 1, 4) && pos == 4);
+  EXPECT_TRUE(s.FindFromEnd(bc, &pos, 1, 1) && pos == 1);
 }
 
-template <typename Container>
-std::vector<std::string> Items(Container& items) {
-  std::vector<std::string> texts;
-  for (ZEL::u32 i = 0; i < items.GetLength(); ++i) texts.push_back(Text(items[i]));
-  return texts;
-}
-
-TEST(CZEL_StringTest, ExtractTagsKeepsInnerEmptyTagsAndDropsAFinalOne) {
-  struct Case {
+// Inner empty tags are kept, a final one dropped; the old items go. On
+// failure `ExtractEncapsulatedString` leaves `out` as it was.
+TEST(CZEL_StringTest, ExtractTagsAndEncapsulatedStrings) {
+  struct Tags {
     std::string text;
     std::vector<std::string> tags;
-  } const cases[] = {
-      {"a,b,", {"a", "b"}}, {",a", {"", "a"}}, {"a,,b", {"a", "", "b"}}, {",", {""}}, {"", {}},
-  };
-  for (Case const& c : cases) {
-    CZEL_StringList list;
-    list += CZEL_String("old");
-    CZEL_StringVector vector(2, CZEL_String("old"));
-    Make(c.text).ExtractTags(',', list);
-    Make(c.text).ExtractTags(',', vector);
-    EXPECT_EQ(Items(list), c.tags) << '"' << c.text << '"';
-    EXPECT_EQ(Items(vector), c.tags) << '"' << c.text << '"';
+  } const tags[] = {{"a,b,", {"a", "b"}}, {",a", {"", "a"}}, {"a,,b", {"a", "", "b"}}, {"", {}}};
+  for (Tags const& t : tags) {
+    CZEL_StringList list(2, CZEL_String("old"));
+    Make(t.text).ExtractTags(',', list);
+    std::vector<std::string> texts;
+    for (ZEL::u32 i = 0; i < list.GetLength(); ++i) texts.push_back(Text(list[i]));
+    EXPECT_EQ(texts, t.tags) << '"' << t.text << '"';
   }
-}
-
-// On failure `out` keeps its text.
-TEST(CZEL_StringTest, ExtractEncapsulatedString) {
-  struct Case {
+  struct Encapsulated {
     char const* text;
     ZEL::u32 code;
     char const* out;
-  } const cases[] = {
-      {"x[]y", 0, ""},
-      {"[a[b]c]", 0, "a[b"},
-      {"]x[y]", 0, "y"},
-      {"x[abc", ZEL_ERR_BAD_FORMAT, "kept"},
-      {"abc]", ZEL_ERR_BAD_FORMAT, "kept"},
-  };
-  for (Case const& c : cases) {
+  } const encapsulated[] = {{"x[]y", 0, ""},
+                            {"[a[b]c]", 0, "a[b"},
+                            {"]x[y]", 0, "y"},
+                            {"x[abc", ZEL_ERR_BAD_FORMAT, "kept"},
+                            {"abc]", ZEL_ERR_BAD_FORMAT, "kept"}};
+  for (Encapsulated const& e : encapsulated) {
     CZEL_String out("kept");
-    EXPECT_EQ(CZEL_String(c.text).ExtractEncapsulatedString('[', ']', out), c.code) << c.text;
-    EXPECT_TRUE(Holds(out, c.out)) << c.text;
-  }
-}
-
-// "A" and "a", equal without case, keep their order; the cursor follows its node.
-TEST(CZEL_StringTest, StringListSort) {
-  struct Case {
-    ZEL::u8 ascending, matchCase;
-    std::vector<std::string> sorted;
-  } const cases[] = {
-      {1, 1, {"A", "C", "_", "a", "b"}},
-      {0, 1, {"b", "a", "_", "C", "A"}},
-      {1, 0, {"A", "a", "b", "C", "_"}},
-      {0, 0, {"_", "C", "b", "A", "a"}},
-  };
-  for (Case const& c : cases) {
-    CZEL_StringList list;
-    for (char const* item : {"b", "A", "a", "C", "_"}) list += CZEL_String(item);
-    list.ToPos(3);
-    EXPECT_EQ(&list.Sort(c.ascending, c.matchCase), &list);
-    EXPECT_EQ(Text(list.CurItem()), "C");
-    EXPECT_EQ(Items(list), c.sorted) << int(c.ascending) << int(c.matchCase);
+    EXPECT_EQ(CZEL_String(e.text).ExtractEncapsulatedString('[', ']', out), e.code) << e.text;
+    EXPECT_TRUE(Holds(out, e.out)) << e.text;
   }
 }
 
