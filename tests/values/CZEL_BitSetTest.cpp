@@ -140,6 +140,7 @@ TEST(CZEL_BitSetCompare, ComparesWordsAsNumbersWhateverTheLengths) {
     EXPECT_EQ(row.b.Compare(row.a), -row.expected);
     EXPECT_EQ(Relations(row.a, row.b), RelationsOfSign(row.expected));
   }
+  EXPECT_EQ(Relations(Make(3, 5), u64{5}), RelationsOfSign(0));
   EXPECT_EQ(Relations(Make(200, 5), u64{6}), RelationsOfSign(-1));
   EXPECT_EQ(Relations(Make(70, 0, 1), kAll), RelationsOfSign(1));
 }
