@@ -22,15 +22,11 @@ struct Params {
 
 // The width class of `width` bits (8, 16, 32 or 64).
 inline CZEL_Crc::t_CrcType TypeOf(ZEL::u32 width) {
-  return width == 8    ? CZEL_Crc::CrcType_8
-         : width == 16 ? CZEL_Crc::CrcType_16
-         : width == 32 ? CZEL_Crc::CrcType_32
-                       : CZEL_Crc::CrcType_64;
+  return static_cast<CZEL_Crc::t_CrcType>(CZEL_Crc::CrcType_8 + (width >= 16) + (width >= 32) +
+                                          (width >= 64));
 }
 
-inline ZEL::u64 Mask(ZEL::u32 width) {
-  return width == 64 ? ~ZEL::u64{0} : (ZEL::u64{1} << width) - 1;
-}
+inline ZEL::u64 Mask(ZEL::u32 width) { return ~ZEL::u64{0} >> (64 - width); }
 
 inline ZEL::u64 Reverse(ZEL::u64 value, ZEL::u32 bits) {
   ZEL::u64 out = 0;
@@ -42,19 +38,15 @@ inline ZEL::u64 Reverse(ZEL::u64 value, ZEL::u32 bits) {
 // each data bit, most significant first (after the byte's reversal if input
 // reflection is on), meets the top bit of the register.
 inline ZEL::u64 Reference(Params const& p, ZEL::u64 reg, ZEL::u8 const* data, std::size_t size) {
-  ZEL::u64 const mask = Mask(p.width);
   ZEL::u64 const top = ZEL::u64{1} << (p.width - 1);
-  reg &= mask;
   for (std::size_t i = 0; i < size; ++i) {
     ZEL::u64 const byte = p.reflectIn ? Reverse(data[i], 8) : data[i];
     for (int bit = 7; bit >= 0; --bit) {
       bool const feedback = ((reg & top) != 0) != (((byte >> bit) & 1) != 0);
-      reg = (reg << 1) & mask;
-      if (feedback) reg ^= p.poly & mask;
+      reg = ((reg << 1) ^ (feedback ? p.poly : 0)) & Mask(p.width);
     }
   }
-  if (p.reflectOut) reg = Reverse(reg, p.width);
-  return (reg ^ p.finalXor) & mask;
+  return ((p.reflectOut ? Reverse(reg, p.width) : reg) ^ p.finalXor) & Mask(p.width);
 }
 
 }  // namespace zel_crc_reference
