@@ -211,7 +211,9 @@ TEST(TimeTest, PartsBoundsAndStruct) {
   EXPECT_EQ(T().GetTimeStruct(s), ZEL_ERR_FAILED);
   EXPECT_EQ(s.hour + s.minute + s.second + s.millisecond, 28);
   EXPECT_EQ(T(23, 59, 58, 999).GetTimeStruct(s), 0u);
-  EXPECT_EQ(t.Set(s) * 10 + t.Set(12, 0, 60, 0), 10u);
+  EXPECT_EQ(t.Set(12, 0, 60, 0), 0u);
+  EXPECT_EQ(t.Set(s), 1u);
+  EXPECT_EQ(MsecsOf(t), 86398999);
 }
 
 TEST(TimeTest, AdditionsWrapAtMidnight) {

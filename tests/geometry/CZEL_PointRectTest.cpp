@@ -133,8 +133,8 @@ TEST(RectTest, ConstructsSetsAndComparesWithoutReordering) {
 
 TEST(RectTest, IsInsideWithAndWithoutEdges) {
   IRect const rect(0, 0, 10, 10);
-  int const rows[][4] = {{5, 5, 1, 1},  {10, 5, 1, 0}, {5, 0, 1, 0},
-                         {0, 10, 1, 0}, {11, 5, 0, 0}, {5, -1, 0, 0}};
+  int const rows[][4] = {{5, 5, 1, 1},  {10, 5, 1, 0}, {5, 0, 1, 0}, {0, 10, 1, 0},
+                         {11, 5, 0, 0}, {5, -1, 0, 0}, {0, 5, 1, 0}};
   for (auto const& row : rows) {
     SCOPED_TRACE(::testing::Message() << row[0] << ',' << row[1]);
     EXPECT_EQ(rect.IsInside(row[0], row[1], 7), row[2]);
