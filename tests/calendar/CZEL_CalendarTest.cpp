@@ -236,6 +236,7 @@ TEST(TimeTest, AdditionsWrapAtMidnight) {
 TEST(TimeTest, DifferencesComparisonAndText) {
   EXPECT_EQ(
       T(0, 0, 1, 500).SecondsTo(T(0, 0, 0, 0)) * 10 + T(0, 0, 0, 0).SecondsTo(T(0, 0, 1, 999)), -9);
+  EXPECT_EQ(T(1, 0, 0, 0).MillisecondsTo(T(0, 0, 0, 0)), -3600000);
   EXPECT_EQ(T().MillisecondsTo(T(1, 0, 0, 0)) + T(1, 0, 0, 0).SecondsTo(T()), 0);
   T const early(0, 0, 0, 0), late(12, 0, 0, 0);
   EXPECT_TRUE(T() == T() && T() < early && early < late && late >= late && early != late);

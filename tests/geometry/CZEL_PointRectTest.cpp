@@ -127,8 +127,7 @@ TEST(RectTest, ConstructsSetsAndComparesWithoutReordering) {
        {IRect(0, 2, 3, 4), IRect(1, 0, 3, 4), IRect(1, 2, 0, 4), IRect(1, 2, 3, 0)}) {
     EXPECT_EQ((rect != other) * 2 + (rect == other), 2);
   }
-  DRect const nan(0, 0, std::nan(""), 1);
-  EXPECT_EQ(nan == nan, 0);
+  EXPECT_EQ(DRect(0, 0, std::nan(""), 1) == DRect(0, 0, std::nan(""), 1), 0);
 }
 
 TEST(RectTest, IsInsideWithAndWithoutEdges) {
