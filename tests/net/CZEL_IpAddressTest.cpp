@@ -23,7 +23,8 @@ TEST(IpAddressTest, ParsesAndPrints) {
     char const *text, *printed;  // printed "": invalid
   } const rows[] = {
       {"192.168.0.1", "192.168.0.1"},
-      {"300.1.1.1", "44.1.1.1"},  // cut to the low 8 bits
+      {"256.1.1.1", "0.1.1.1"},  // cut to the low 8 bits
+      {"300.1.1.1", "44.1.1.1"},
       {"-1.0.0.0", "255.0.0.0"},
       {"1.2.3", ""},
       {"1.2.3.4.5", ""},
