@@ -5,43 +5,28 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
-struct Rgb {
-  int r, g, b;
-};
-struct Hls {
-  int h, l, s;
-};
+using Triple = std::tuple<int, int, int>;
 
-void ExpectRgb(CZEL_Color const& c, Rgb e) {
-  EXPECT_EQ(c.GetR(), e.r);
-  EXPECT_EQ(c.GetG(), e.g);
-  EXPECT_EQ(c.GetB(), e.b);
-  EXPECT_EQ(c.GetUnsignedColor() >> 24, 0u);
+// The components, or -1s if the top byte of the word isn't 0.
+Triple RgbOf(CZEL_Color const& c) {
+  if (c.GetUnsignedColor() >> 24 != 0) return {-1, -1, -1};
+  return {c.GetR(), c.GetG(), c.GetB()};
 }
 
-Hls HlsOf(CZEL_Color const& c) {
-  ZEL::u8 h = 0;
-  ZEL::u8 l = 0;
-  ZEL::u8 s = 0;
-  c.GetHLS(h, l, s);
-  return {h, l, s};
-}
-
-CZEL_Color FromHls(int h, int l, int s) {
+Triple FromHls(int h, int l, int s) {
   CZEL_Color c(0xFF000000u);
   c.SetHLS(ZEL::u16(h), ZEL::u16(l), ZEL::u16(s));
-  return c;
+  return RgbOf(c);
 }
 
 TEST(ColorTest, HlsTableBothWays) {
   struct Row {
-    Rgb rgb;
-    Hls hls;
-    Rgb back;
-  };
-  Row const rows[] = {
+    Triple rgb, hls, back;
+  } const rows[] = {
       {{255, 0, 0}, {0, 120, 240}, {255, 0, 0}},
       {{0, 255, 0}, {80, 120, 240}, {0, 255, 0}},
       {{0, 0, 255}, {160, 120, 240}, {0, 0, 255}},
@@ -60,61 +45,45 @@ TEST(ColorTest, HlsTableBothWays) {
       {{255, 128, 255}, {200, 180, 240}, {255, 128, 255}},
   };
   for (Row const& row : rows) {
-    SCOPED_TRACE(::testing::Message() << row.rgb.r << ',' << row.rgb.g << ',' << row.rgb.b);
-    CZEL_Color const c(ZEL::u8(row.rgb.r), ZEL::u8(row.rgb.g), ZEL::u8(row.rgb.b));
-    Hls const hls = HlsOf(c);
-    EXPECT_EQ(hls.h, row.hls.h);
-    EXPECT_EQ(hls.l, row.hls.l);
-    EXPECT_EQ(hls.s, row.hls.s);
-    EXPECT_EQ(c.GetHue(), row.hls.h);
-    EXPECT_EQ(c.GetLuminosity(), row.hls.l);
-    EXPECT_EQ(c.GetSaturation(), row.hls.s);
-    ExpectRgb(FromHls(row.hls.h, row.hls.l, row.hls.s), row.back);
+    auto const [r, g, b] = row.rgb;
+    SCOPED_TRACE(::testing::Message() << r << ',' << g << ',' << b);
+    CZEL_Color const c(static_cast<ZEL::u8>(r), static_cast<ZEL::u8>(g), static_cast<ZEL::u8>(b));
+    ZEL::u8 h = 0, l = 0, s = 0;
+    c.GetHLS(h, l, s);
+    EXPECT_EQ(Triple(h, l, s), row.hls);
+    EXPECT_EQ(Triple(c.GetHue(), c.GetLuminosity(), c.GetSaturation()), row.hls);
+    EXPECT_EQ(FromHls(std::get<0>(row.hls), std::get<1>(row.hls), std::get<2>(row.hls)), row.back);
   }
 }
 
 TEST(ColorTest, SetHlsRunsEveryArgumentThroughTheSameArithmetic) {
-  ExpectRgb(FromHls(240, 120, 240), {255, 0, 0});
-  ExpectRgb(FromHls(300, 120, 240), {128, 255, 0});  // as hue 60
-  ExpectRgb(FromHls(60, 120, 240), {128, 255, 0});
-  ExpectRgb(FromHls(600, 120, 240), {0, 0, 0});  // still above 240: the low branch
-  ExpectRgb(FromHls(0, 255, 0), {14, 14, 14});   // 255 * 255 / 240 is 270: its low byte
-  ExpectRgb(FromHls(0, 65535, 65535), {32, 222, 222});
-  ExpectRgb(FromHls(65535, 65535, 1), {32, 32, 32});  // every hue far above 240 gives m1
+  EXPECT_EQ(FromHls(240, 120, 240), Triple(255, 0, 0));
+  EXPECT_EQ(FromHls(300, 120, 240), Triple(128, 255, 0));  // as hue 60
+  EXPECT_EQ(FromHls(600, 120, 240), Triple(0, 0, 0));      // still above 240: the low branch
+  EXPECT_EQ(FromHls(0, 255, 0), Triple(14, 14, 14));       // 255 * 255 / 240 is 270: its low byte
+  EXPECT_EQ(FromHls(0, 65535, 65535), Triple(32, 222, 222));
 }
 
 TEST(ColorTest, WordKeepsTheTopByteComponentsDropIt) {
-  CZEL_Color c;
-  EXPECT_EQ(&(c = 0xAB223344u), &c);
-  ZEL::u8 r = 0;
-  ZEL::u8 g = 0;
-  ZEL::u8 b = 0;
-  c.GetRGB(r, g, b);
-  EXPECT_EQ(r + g * 256 + b * 65536, 0x223344);
-  EXPECT_EQ(ZEL::u32(c), 0xAB223344u);
+  CZEL_Color c, assigned;
+  ZEL::u8 r = 0, g = 0, b = 0;
+  (c = 0xAB223344u).GetRGB(r, g, b);
+  EXPECT_EQ(Triple(r, g, b), Triple(0x44, 0x33, 0x22));
   CZEL_Color copy(c);
-  CZEL_Color assigned;
-  EXPECT_EQ(&(assigned = copy), &assigned);
-  EXPECT_EQ(assigned.GetUnsignedColor(), 0xAB223344u);
-  assigned = CZEL_Color(0xFF000001u);  // a temporary assigns through its word
-  EXPECT_EQ(assigned.GetUnsignedColor(), 0xFF000001u);
-  EXPECT_EQ(&c.SetR(68), &c);
-  EXPECT_EQ(c.GetUnsignedColor(), 0x00223344u);
+  EXPECT_EQ(ZEL::u32(assigned = copy), 0xAB223344u);
+  EXPECT_EQ(ZEL::u32(assigned = CZEL_Color(0xFF000001u)), 0xFF000001u);  // through the word
+  EXPECT_EQ(c.SetR(68).GetUnsignedColor(), 0x00223344u);
   EXPECT_EQ(copy.SetG(1).SetB(2).GetUnsignedColor(), 0x00020144u);
   EXPECT_EQ(CZEL_Color(1, 2, 3).GetUnsignedColor(), 0x030201u);
 }
 
 TEST(ColorTest, OneHlsComponentAtATime) {
   CZEL_Color c(255, 0, 0);
-  EXPECT_EQ(&c.SetHue(80), &c);
-  ExpectRgb(c, {0, 255, 0});
-  c.SetLuminosity(60);
-  ExpectRgb(c, {0, 128, 0});
-  c.SetSaturation(0);
-  ExpectRgb(c, {63, 63, 63});
+  EXPECT_EQ(RgbOf(c.SetHue(80)), Triple(0, 255, 0));
+  EXPECT_EQ(RgbOf(c.SetLuminosity(60)), Triple(0, 128, 0));
+  EXPECT_EQ(RgbOf(c.SetSaturation(0)), Triple(63, 63, 63));
   CZEL_Color grey(0xFF808080u);
-  grey.SetHue(40);  // saturation 0 ignores the hue
-  ExpectRgb(grey, {127, 127, 127});
+  EXPECT_EQ(RgbOf(grey.SetHue(40)), Triple(127, 127, 127));  // saturation 0 ignores the hue
   EXPECT_EQ(grey.GetHue(), 170);
 }
 
