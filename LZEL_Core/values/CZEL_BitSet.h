@@ -257,10 +257,10 @@ class ZEL_API CZEL_BitSet : public CZEL_Object {
   // top one taken from the word as it stands, tail bits included. No leading
   // zero is dropped. `separator` goes between every `group` digits counted
   // from the least significant one, never at either end; `group` must not be
-  // 0. Any other `base` gives `CZEL_String::FromNumber(word 0, base, group,
-  // separator)` of word 0 whole, and an empty string for a set longer than
-  // 64 bits; that base must be at least 2. An invalid set gives an empty
-  // string.
+  // 0. Any other `base` gives what `CZEL_String::FromNumber` makes of word 0
+  // whole with `base`, `group` and `separator`, and an empty string for a set
+  // longer than 64 bits; that base must be at least 2. An invalid set gives
+  // an empty string.
   CZEL_String ToString(ZEL::u32 base, ZEL::u32 group, char separator) const;
 
   // Copies the low four bytes of each word, least significant first, into
