@@ -1,0 +1,260 @@
+// The formats on files: CSV records and Windows bitmaps, whose fixture files
+// the tests write byte by byte.
+
+#include "IoTestSupport.h"
+
+using namespace std::string_literals;
+using namespace zel_test;
+using ZEL::u32;
+
+namespace {
+
+constexpr u32 kCrLf = F::LINE_END_CR | F::LINE_END_LF;
+constexpr u32 kNewFile = F::FILE_OPEN_WRITE | F::FILE_OPEN_TRUNCATE;
+
+CZEL_StringVector Record(Lines const& fields) {
+  CZEL_StringVector record;
+  for (std::string const& f : fields) record += Make(f);
+  return record;
+}
+
+class CsvFileTest : public TempDirTest {};
+
+// Only a field with the separator is quoted, and a NUL ends the line's text;
+// the list form writes what the vector form does.
+TEST_F(CsvFileTest, Writing) {
+  struct Row {
+    Lines fields;
+    u32 lineEnd;
+    std::string bytes;
+  } const rows[] = {{{"a", "b;c", ""}, kCrLf, "a;\"b;c\";\r\n"},
+                    {{"\"q\"", "x,y", "l\nf"}, F::LINE_END_LF, "\"q\";x,y;l\nf\n"},
+                    {{"a", "b\0c"s, "d"}, 7, "a;b\0\r\n"s}};
+  for (Row const& row : rows) {
+    CZEL_CsvFile csv(3, ';', row.lineEnd);
+    CZEL_StringVector record = Record(row.fields);
+    CZEL_StringList list;
+    list = record;
+    for (bool byList : {false, true}) {
+      ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);
+      EXPECT_EQ(byList ? csv.WriteRecord(list) : csv.WriteRecord(record), 0u);
+      csv.Close();
+      EXPECT_EQ(OnDisk("w"), row.bytes);
+    }
+  }
+  EXPECT_ZEL_THROW(CZEL_CsvFile(0, ';', kCrLf), ZEL_ERR_INVALID_ARGUMENT, nullptr);
+  CZEL_CsvFile csv(3, ';', kCrLf), bare(1, ';', 0);
+  CZEL_StringVector two = Record({"a", "b"}), three = Record({"a", "b", "c"});
+  CZEL_StringVector empty = Record({""});
+  EXPECT_EQ(csv.WriteRecord(three), ZEL_ERR_FILE_NOT_OPEN);
+  ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);
+  EXPECT_EQ(csv.WriteRecord(two), ZEL_ERR_INVALID_ARGUMENT);
+  EXPECT_EQ(bare.WriteRecord(empty), 0u);  // an empty line without line end writes nothing
+}
+
+// The reader splits at every separator, knows no quotes, and fails the whole
+// file on one line of another field count, the count of records kept.
+TEST_F(CsvFileTest, Reading) {
+  struct Row {
+    std::string bytes;
+    u32 count;
+    std::vector<Lines> records;  // none: the reading fails
+  } const rows[] = {
+      {"\"a;b\";c\n;b\r;c", 2, {{"\"a", "b\"", "c"}, {"", "b", "c"}}},
+      {"a;b;c\na;\"b;c\";d\n", 2, {}},  // four fields on the page
+      {"a;b;\n", 1, {}},                // an empty tail is no field
+      {"a;b;c\n\n", 2, {}},             // nor has an empty line
+      {"a;b;c\r\n\r", 1, {}},           // a last line of dropped bytes fails unread
+  };
+  CZEL_CsvFile csv(3, ';', kCrLf);
+  u32 count = 7;
+  EXPECT_EQ(csv.ReadFile(Z("missing"), count), nullptr);
+  EXPECT_EQ(count, 7u);
+  ASSERT_EQ(csv.Open(Z("out"), kNewFile), 0u);
+  for (Row const& row : rows) {
+    SCOPED_TRACE(row.bytes);
+    Spit("in", row.bytes);
+    CZEL_StringVector* records = csv.ReadFile(Z("in"), count);
+    std::vector<Lines> got(records != nullptr ? count : 0);
+    for (u32 i = 0; i < got.size(); ++i) {
+      for (u32 j = 0; j < records[i].GetLength(); ++j) got[i].push_back(Text(records[i][j]));
+    }
+    EXPECT_EQ(got, row.records);
+    EXPECT_EQ(count, row.count);
+    delete[] records;
+  }
+  CZEL_StringVector record = Record({"a", "b", "c"});
+  EXPECT_EQ(csv.WriteRecord(record), ZEL_ERR_FILE_NOT_OPEN);  // reading closed the object
+}
+
+// A bitmap file with its header fields under the test's control, a 3 x 2
+// true-colour image by default; the pixel bytes are 0, 1, 2, ... so that a
+// colour tells its address.
+struct Bmp {
+  ZEL::u16 bits = 24;
+  int width = 3;
+  std::vector<u32> palette{};  // also the count of colours used
+  u32 size = 40;
+  int height = 2;
+  u32 pixelBytes = 24;
+  u32 sizeImage = 0;
+  std::string signature = "BM";
+
+  std::string Bytes() const {
+    std::string b = signature;
+    auto put = [&b](u32 value, int width) {
+      for (int i = 0; i < width; ++i) b += char(value >> (8 * i));
+    };
+    for (u32 field : {0u, 0u, 14 + size + 4 * u32(palette.size()), size, u32(width), u32(height)})
+      put(field, 4);
+    put(1 | bits << 16, 4);
+    for (u32 field : {0u, sizeImage, 1u, 2u, u32(palette.size()), 0u}) put(field, 4);
+    b.resize(14 + size);
+    for (u32 entry : palette) put(entry, 4);
+    for (u32 i = 0; i < pixelBytes; ++i) b += char(i);
+    return b;
+  }
+};
+
+// Opens the vectors to the checks.
+class Bitmap : public CZEL_WinBitmapData {
+ public:
+  void const* Pixels() const { return &m_Pixels; }
+  void const* Palette() const { return &m_Palette; }
+};
+
+// The results of both queries at (x, y): codes, index and colour as
+// 0xRRGGBB with the reserved byte on top.
+Codes Ask(CZEL_WinBitmapData& bitmap, u32 x, u32 y) {
+  u32 index = 0;
+  ZEL::t_WinRgbQuad c{0, 0, 0, 0};
+  u32 const indexCode = bitmap.GetPixelColorIndex(x, y, index);
+  u32 const colorCode = bitmap.GetPixelColor(x, y, c);
+  return {indexCode, index, colorCode,
+          u32(c.reserved) << 24 | u32(c.red) << 16 | u32(c.green) << 8 | c.blue};
+}
+
+class WinBitmapDataTest : public TempDirTest {
+ protected:
+  u32 Load(std::string const& bytes, CZEL_WinBitmapData& bitmap) {
+    Spit("t.bmp", bytes);
+    return bitmap.LoadFromFile(Z("t.bmp"));
+  }
+};
+
+// Each header mutation and cut of the file: the code of a load and of a
+// header read, which keeps only the fields before a failure.
+TEST_F(WinBitmapDataTest, HeaderChecks) {
+  Bmp wrongSignature, size12, size56, size124;
+  wrongSignature.signature = "MB";
+  size12.size = 12;
+  size56.size = 56;
+  size124.size = 124;
+  struct Row {
+    Bmp bmp;
+    std::size_t cut;
+    u32 code;
+  } const rows[] = {{Bmp(), 17, ZEL_ERR_BAD_FORMAT},           {Bmp(), 53, ZEL_ERR_BAD_FORMAT},
+                    {wrongSignature, 999, ZEL_ERR_BAD_FORMAT}, {size12, 999, ZEL_ERR_BAD_FORMAT},
+                    {size56, 999, ZEL_ERR_BAD_FORMAT},         {size124, 999, 0}};
+  for (Row const& row : rows) {
+    SCOPED_TRACE(std::to_string(row.bmp.size) + "/" + std::to_string(row.cut));
+    CZEL_WinBitmapData::SInfoHeader info{};
+    info.biWidth = 77;
+    CZEL_WinBitmapData bitmap;
+    EXPECT_EQ(Load(row.bmp.Bytes().substr(0, row.cut), bitmap), row.code);
+    EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("t.bmp"), info, nullptr), row.code);
+    EXPECT_EQ(info.biWidth, row.code == 0 ? 3 : 77);
+  }
+  CZEL_WinBitmapData::SInfoHeader info{};
+  u32 offset = 0;
+  EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("none"), info, &offset), ZEL_ERR_IO);
+  EXPECT_EQ(CZEL_WinBitmapData().LoadFromFile(Z("none")), ZEL_ERR_IO);
+  Spit("t.bmp", Bmp().Bytes().substr(0, 54));
+  ASSERT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("t.bmp"), info, &offset), 0u);
+  EXPECT_EQ((Codes{offset, info.biSizeImage, u32(info.biYPelsPerMeter)}), (Codes{54, 24, 2}));
+  u32 const depths[][3] = {{1, 0, 2},  {4, 0, 16}, {8, 0, 256},   {16, 0, 0},
+                           {32, 0, 0}, {24, 3, 3}, {8, 65537, 1}, {8, 65536, 0}};
+  for (auto const& d : depths) {
+    info.biBitCount = ZEL::u16(d[0]);
+    info.biClrUsed = d[1];
+    EXPECT_EQ(CZEL_WinBitmapData::GetPaletteDepth(info), d[2]) << d[0] << '/' << d[1];
+  }
+}
+
+// Rows run bottom-up; pixel (0, 0) of the true-colour image is at byte 12.
+// Palette colours take the reserved byte from the entry. Kinds without a
+// reader, long headers and top-down files are refused.
+TEST_F(WinBitmapDataTest, Pixels) {
+  std::vector<u32> palette = {0x11223344, 0xAA0000FF, 0x00FF0000, 0x00000001};
+  for (u32 i = 4; i < 16; ++i) palette.push_back(i);
+  Bmp topDown;
+  topDown.height = -2;
+  topDown.sizeImage = 24;
+  u32 const kRdy = ZEL_ERR_NOT_READY, kOut = ZEL_ERR_OUT_OF_RANGE, kNo = ZEL_ERR_NOT_SUPPORTED;
+  struct Row {
+    Bmp bmp;
+    u32 x, y;
+    Codes answer;
+  } const rows[] = {
+      {Bmp(), 0, 0, {kRdy, 0, 0, 0x0E0D0C}},
+      {Bmp(), 2, 1, {kRdy, 0, 0, 0x080706}},
+      {Bmp(), 3, 0, {kRdy, 0, kOut, 0}},
+      {Bmp(), 0xAAAAAAAC, 0, {kRdy, 0, 0, 0x121110}},  // x * 3 wraps to 4
+      {Bmp{8, 5, palette}, 1, 1, {0, 1, 0, 0xAA0000FF}},
+      {Bmp{8, 5, palette}, 3, 0, {0, 11, 0, 0x00000B}},  // byte 8 + 3
+      {Bmp{8, 5, palette}, 0, 2, {kOut, 0, kOut, 0}},
+      {Bmp{1, 9, {0, 0xFFFFFF}}, 5, 0, {0, 1, 0, 0xFFFFFF}},  // byte 4 (0x04): bit 2
+      {Bmp{1, 9, {0, 0xFFFFFF}}, 8, 0, {0, 0, 0, 0}},         // byte 5: bit 7 of 0x05
+      {Bmp{4, 5, std::vector<u32>(16)}, 2, 0, {kNo, 0, kNo, 0}},
+      {Bmp{24, 5, {1, 2}}, 2, 0, {kNo, 0, kNo, 0}},
+      {Bmp{32, 5}, 2, 0, {kRdy, 0, kNo, 0}},
+      {Bmp{8, 5, {1, 2, 3}, 124}, 2, 0, {0, 2, kRdy, 0}},  // row length 0
+      {topDown, 0, 0x7FFFFFFF, {kRdy, 0, kOut, 0}},
+  };
+  for (Row const& row : rows) {
+    SCOPED_TRACE(std::to_string(row.bmp.bits) + "/" + std::to_string(row.x) + "," +
+                 std::to_string(row.y));
+    Bmp bmp = row.bmp;
+    if (bmp.bits != 24 || bmp.width != 3) bmp.pixelBytes = 64;
+    CZEL_WinBitmapData bitmap;
+    ASSERT_EQ(Load(bmp.Bytes(), bitmap), 0u);
+    EXPECT_EQ(Ask(bitmap, row.x, row.y), row.answer);
+  }
+}
+
+// Queries that reach past the bytes held throw from the vectors. A load that
+// fails at the palette or the pixels leaves a destroyed object; one that
+// fails at the header keeps the old palette and pixels.
+TEST_F(WinBitmapDataTest, ShortDataFailedLoadsAndCopies) {
+  Bitmap color, bytes;
+  ASSERT_EQ(Load(Bmp{24, 3, {}, 40, 2, 13, 13}.Bytes(), color), 0u);
+  ASSERT_EQ(Load(Bmp{8, 5, {1, 2}, 40, 2, 16}.Bytes(), bytes), 0u);
+  ZEL::t_WinRgbQuad c{};
+  u32 index = 0;
+  EXPECT_ZEL_THROW(color.GetPixelColor(0, 0, c), ZEL_ERR_BAD_POSITION, color.Pixels());
+  EXPECT_EQ(color.GetPixelColor(1, 0, c), ZEL_ERR_OUT_OF_RANGE);  // byte 15 of 13
+  EXPECT_ZEL_THROW(bytes.GetPixelColor(2, 1, c), ZEL_ERR_BAD_POSITION, bytes.Palette());
+  EXPECT_ZEL_THROW(bytes.GetPixelColorIndex(0, 0xFFFFFFFF, index), ZEL_ERR_BAD_POSITION,
+                   bytes.Pixels());
+  std::string const good = Bmp{8, 5, {7, 8, 9, 10}, 40, 2, 16}.Bytes();
+  for (std::string const& cut : {good.substr(0, 60), good.substr(0, good.size() - 1)}) {
+    Bitmap bitmap;
+    ASSERT_EQ(Load(Bmp().Bytes(), bitmap), 0u);
+    EXPECT_EQ(Load(cut, bitmap), ZEL_ERR_IO);
+    CZEL_WinBitmapData::SInfoHeader const& info = *bitmap.GetInfo();
+    EXPECT_EQ(info.biWidth | info.biHeight | info.biBitCount, 0);
+    EXPECT_EQ(info.biClrUsed, 4u);  // the rest of the header stays
+    EXPECT_EQ(Ask(bitmap, 0, 0), (Codes{ZEL_ERR_OUT_OF_RANGE, 0, ZEL_ERR_OUT_OF_RANGE, 0}));
+  }
+  ASSERT_EQ(Load(good, bytes), 0u);
+  EXPECT_EQ(Load(good.substr(0, 40), bytes), ZEL_ERR_BAD_FORMAT);
+  CZEL_WinBitmapData copy(bytes), assigned;
+  assigned = bytes;
+  bytes.Destroy();
+  EXPECT_EQ(Ask(copy, 1, 1), Ask(assigned, 1, 1));
+  EXPECT_EQ(Ask(copy, 1, 1), (Codes{0, 1, 0, 8}));
+  EXPECT_ZEL_THROW(Load(Bmp{24, 0}.Bytes(), bytes), ZEL_ERR_EMPTY_INPUT, bytes.Pixels());
+}
+
+}  // namespace
