@@ -1,6 +1,8 @@
 // The formats on files: CSV records and Windows bitmaps, whose fixture files
 // the tests write byte by byte.
 
+#include <tuple>
+
 #include "IoTestSupport.h"
 
 using namespace std::string_literals;
@@ -23,33 +25,27 @@ class CsvFileTest : public TempDirTest {};
 // Only a field with the separator is quoted, and a NUL ends the line's text;
 // the list form writes what the vector form does.
 TEST_F(CsvFileTest, Writing) {
-  struct Row {
-    Lines fields;
-    u32 lineEnd;
-    std::string bytes;
-  } const rows[] = {{{"a", "b;c", ""}, kCrLf, "a;\"b;c\";\r\n"},
-                    {{"\"q\"", "x,y", "l\nf"}, F::LINE_END_LF, "\"q\";x,y;l\nf\n"},
-                    {{"a", "b\0c"s, "d"}, 7, "a;b\0\r\n"s}};
-  for (Row const& row : rows) {
-    CZEL_CsvFile csv(3, ';', row.lineEnd);
-    CZEL_StringVector record = Record(row.fields);
+  for (auto const& [fields, lineEnd, bytes] :
+       {std::tuple(Lines{"a", "b;c", ""}, kCrLf, "a;\"b;c\";\r\n"s),
+        std::tuple(Lines{"\"q\"", "x,y", "l\nf"}, u32{F::LINE_END_LF}, "\"q\";x,y;l\nf\n"s),
+        std::tuple(Lines{"a", "b\0c"s, "d"}, 7u, "a;b\0\r\n"s)}) {
+    CZEL_CsvFile csv(3, ';', lineEnd);
+    CZEL_StringVector record = Record(fields);
     CZEL_StringList list;
     list = record;
     for (bool byList : {false, true}) {
       ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);
       EXPECT_EQ(byList ? csv.WriteRecord(list) : csv.WriteRecord(record), 0u);
       csv.Close();
-      EXPECT_EQ(OnDisk("w"), row.bytes);
+      EXPECT_EQ(OnDisk("w"), bytes);
     }
   }
   EXPECT_ZEL_THROW(CZEL_CsvFile(0, ';', kCrLf), ZEL_ERR_INVALID_ARGUMENT, nullptr);
   CZEL_CsvFile csv(3, ';', kCrLf), bare(1, ';', 0);
-  CZEL_StringVector two = Record({"a", "b"}), three = Record({"a", "b", "c"});
-  CZEL_StringVector empty = Record({""});
-  EXPECT_EQ(csv.WriteRecord(three), ZEL_ERR_FILE_NOT_OPEN);
-  ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);
+  CZEL_StringVector two = Record({"a", "b"}), three = Record({"a", "b", "c"}), empty = Record({""});
+  EXPECT_EQ(csv.WriteRecord(three) + bare.WriteRecord(empty), ZEL_ERR_FILE_NOT_OPEN);  // an empty
+  ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);  // line without line end writes nothing, even closed
   EXPECT_EQ(csv.WriteRecord(two), ZEL_ERR_INVALID_ARGUMENT);
-  EXPECT_EQ(bare.WriteRecord(empty), 0u);  // an empty line without line end writes nothing
 }
 
 // The reader splits at every separator, knows no quotes, and fails the whole
@@ -59,13 +55,11 @@ TEST_F(CsvFileTest, Reading) {
     std::string bytes;
     u32 count;
     std::vector<Lines> records;  // none: the reading fails
-  } const rows[] = {
-      {"\"a;b\";c\n;b\r;c", 2, {{"\"a", "b\"", "c"}, {"", "b", "c"}}},
-      {"a;b;c\na;\"b;c\";d\n", 2, {}},  // four fields on the page
-      {"a;b;\n", 1, {}},                // an empty tail is no field
-      {"a;b;c\n\n", 2, {}},             // nor has an empty line
-      {"a;b;c\r\n\r", 1, {}},           // a last line of dropped bytes fails unread
-  };
+  } const rows[] = {{"\"a;b\";c\n;b\r;c", 2, {{"\"a", "b\"", "c"}, {"", "b", "c"}}},
+                    {"a;b;c\na;\"b;c\";d\n", 2, {}},  // four fields on the page
+                    {"a;b;\n", 1, {}},                // an empty tail is no field
+                    {"a;b;c\n\n", 2, {}},             // nor has an empty line
+                    {"a;b;c\r\n\r", 1, {}}};          // a last line of dropped bytes fails unread
   CZEL_CsvFile csv(3, ';', kCrLf);
   u32 count = 7;
   EXPECT_EQ(csv.ReadFile(Z("missing"), count), nullptr);
@@ -94,14 +88,11 @@ struct Bmp {
   ZEL::u16 bits = 24;
   int width = 3;
   std::vector<u32> palette{};  // also the count of colours used
-  u32 size = 40;
+  u32 size = 40, pixelBytes = 24, sizeImage = 0;
   int height = 2;
-  u32 pixelBytes = 24;
-  u32 sizeImage = 0;
-  std::string signature = "BM";
 
   std::string Bytes() const {
-    std::string b = signature;
+    std::string b = "BM";
     auto put = [&b](u32 value, int width) {
       for (int i = 0; i < width; ++i) b += char(value >> (8 * i));
     };
@@ -140,31 +131,28 @@ class WinBitmapDataTest : public TempDirTest {
     Spit("t.bmp", bytes);
     return bitmap.LoadFromFile(Z("t.bmp"));
   }
+  CZEL_WinBitmapData m_Bitmap;
 };
 
 // Each header mutation and cut of the file: the code of a load and of a
 // header read, which keeps only the fields before a failure.
 TEST_F(WinBitmapDataTest, HeaderChecks) {
-  Bmp wrongSignature, size12, size56, size124;
-  wrongSignature.signature = "MB";
-  size12.size = 12;
-  size56.size = 56;
-  size124.size = 124;
   struct Row {
-    Bmp bmp;
-    std::size_t cut;
+    u32 size, cut;
+    char signature;
     u32 code;
-  } const rows[] = {{Bmp(), 17, ZEL_ERR_BAD_FORMAT},           {Bmp(), 53, ZEL_ERR_BAD_FORMAT},
-                    {wrongSignature, 999, ZEL_ERR_BAD_FORMAT}, {size12, 999, ZEL_ERR_BAD_FORMAT},
-                    {size56, 999, ZEL_ERR_BAD_FORMAT},         {size124, 999, 0}};
+  } const rows[] = {{40, 17, 'B', ZEL_ERR_BAD_FORMAT}, {40, 53, 'B', ZEL_ERR_BAD_FORMAT},
+                    {40, 99, 'b', ZEL_ERR_BAD_FORMAT}, {12, 99, 'B', ZEL_ERR_BAD_FORMAT},
+                    {56, 99, 'B', ZEL_ERR_BAD_FORMAT}, {124, 999, 'B', 0}};
   for (Row const& row : rows) {
-    SCOPED_TRACE(std::to_string(row.bmp.size) + "/" + std::to_string(row.cut));
+    SCOPED_TRACE(std::to_string(row.size) + "/" + std::to_string(row.cut) + row.signature);
     CZEL_WinBitmapData::SInfoHeader info{};
     info.biWidth = 77;
-    CZEL_WinBitmapData bitmap;
-    EXPECT_EQ(Load(row.bmp.Bytes().substr(0, row.cut), bitmap), row.code);
+    std::string bytes = Bmp{24, 3, {}, row.size}.Bytes().substr(0, row.cut);
+    bytes[0] = row.signature;
+    EXPECT_EQ(Load(bytes, m_Bitmap), row.code);
     EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("t.bmp"), info, nullptr), row.code);
-    EXPECT_EQ(info.biWidth, row.code == 0 ? 3 : 77);
+    EXPECT_EQ(info.biWidth, row.code == 0 ? 3 : 77);  // the fields before a failure only
   }
   CZEL_WinBitmapData::SInfoHeader info{};
   u32 offset = 0;
@@ -186,11 +174,9 @@ TEST_F(WinBitmapDataTest, HeaderChecks) {
 // Palette colours take the reserved byte from the entry. Kinds without a
 // reader, long headers and top-down files are refused.
 TEST_F(WinBitmapDataTest, Pixels) {
-  std::vector<u32> palette = {0x11223344, 0xAA0000FF, 0x00FF0000, 0x00000001};
-  for (u32 i = 4; i < 16; ++i) palette.push_back(i);
-  Bmp topDown;
-  topDown.height = -2;
-  topDown.sizeImage = 24;
+  std::vector<u32> palette = {0, 0xAA0000FF};
+  for (u32 i = 2; i < 16; ++i) palette.push_back(i);
+  Bmp const topDown{24, 3, {}, 40, 24, 24, -2};
   u32 const kRdy = ZEL_ERR_NOT_READY, kOut = ZEL_ERR_OUT_OF_RANGE, kNo = ZEL_ERR_NOT_SUPPORTED;
   struct Row {
     Bmp bmp;
@@ -198,7 +184,6 @@ TEST_F(WinBitmapDataTest, Pixels) {
     Codes answer;
   } const rows[] = {
       {Bmp(), 0, 0, {kRdy, 0, 0, 0x0E0D0C}},
-      {Bmp(), 2, 1, {kRdy, 0, 0, 0x080706}},
       {Bmp(), 3, 0, {kRdy, 0, kOut, 0}},
       {Bmp(), 0xAAAAAAAC, 0, {kRdy, 0, 0, 0x121110}},  // x * 3 wraps to 4
       {Bmp{8, 5, palette}, 1, 1, {0, 1, 0, 0xAA0000FF}},
@@ -208,7 +193,6 @@ TEST_F(WinBitmapDataTest, Pixels) {
       {Bmp{1, 9, {0, 0xFFFFFF}}, 8, 0, {0, 0, 0, 0}},         // byte 5: bit 7 of 0x05
       {Bmp{4, 5, std::vector<u32>(16)}, 2, 0, {kNo, 0, kNo, 0}},
       {Bmp{24, 5, {1, 2}}, 2, 0, {kNo, 0, kNo, 0}},
-      {Bmp{32, 5}, 2, 0, {kRdy, 0, kNo, 0}},
       {Bmp{8, 5, {1, 2, 3}, 124}, 2, 0, {0, 2, kRdy, 0}},  // row length 0
       {topDown, 0, 0x7FFFFFFF, {kRdy, 0, kOut, 0}},
   };
@@ -228,8 +212,8 @@ TEST_F(WinBitmapDataTest, Pixels) {
 // fails at the header keeps the old palette and pixels.
 TEST_F(WinBitmapDataTest, ShortDataFailedLoadsAndCopies) {
   Bitmap color, bytes;
-  ASSERT_EQ(Load(Bmp{24, 3, {}, 40, 2, 13, 13}.Bytes(), color), 0u);
-  ASSERT_EQ(Load(Bmp{8, 5, {1, 2}, 40, 2, 16}.Bytes(), bytes), 0u);
+  ASSERT_EQ(Load(Bmp{24, 3, {}, 40, 13, 13}.Bytes(), color), 0u);
+  ASSERT_EQ(Load(Bmp{8, 5, {1, 2}, 40, 16}.Bytes(), bytes), 0u);
   ZEL::t_WinRgbQuad c{};
   u32 index = 0;
   EXPECT_ZEL_THROW(color.GetPixelColor(0, 0, c), ZEL_ERR_BAD_POSITION, color.Pixels());
@@ -237,15 +221,14 @@ TEST_F(WinBitmapDataTest, ShortDataFailedLoadsAndCopies) {
   EXPECT_ZEL_THROW(bytes.GetPixelColor(2, 1, c), ZEL_ERR_BAD_POSITION, bytes.Palette());
   EXPECT_ZEL_THROW(bytes.GetPixelColorIndex(0, 0xFFFFFFFF, index), ZEL_ERR_BAD_POSITION,
                    bytes.Pixels());
-  std::string const good = Bmp{8, 5, {7, 8, 9, 10}, 40, 2, 16}.Bytes();
+  std::string const good = Bmp{8, 5, {7, 8, 9, 10}, 40, 16}.Bytes();
   for (std::string const& cut : {good.substr(0, 60), good.substr(0, good.size() - 1)}) {
-    Bitmap bitmap;
-    ASSERT_EQ(Load(Bmp().Bytes(), bitmap), 0u);
-    EXPECT_EQ(Load(cut, bitmap), ZEL_ERR_IO);
-    CZEL_WinBitmapData::SInfoHeader const& info = *bitmap.GetInfo();
+    ASSERT_EQ(Load(Bmp().Bytes(), m_Bitmap), 0u);
+    EXPECT_EQ(Load(cut, m_Bitmap), ZEL_ERR_IO);
+    CZEL_WinBitmapData::SInfoHeader const& info = *m_Bitmap.GetInfo();
     EXPECT_EQ(info.biWidth | info.biHeight | info.biBitCount, 0);
     EXPECT_EQ(info.biClrUsed, 4u);  // the rest of the header stays
-    EXPECT_EQ(Ask(bitmap, 0, 0), (Codes{ZEL_ERR_OUT_OF_RANGE, 0, ZEL_ERR_OUT_OF_RANGE, 0}));
+    EXPECT_EQ(Ask(m_Bitmap, 0, 0), (Codes{ZEL_ERR_OUT_OF_RANGE, 0, ZEL_ERR_OUT_OF_RANGE, 0}));
   }
   ASSERT_EQ(Load(good, bytes), 0u);
   EXPECT_EQ(Load(good.substr(0, 40), bytes), ZEL_ERR_BAD_FORMAT);

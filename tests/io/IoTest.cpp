@@ -71,22 +71,18 @@ TEST_F(FileTest, TransferCodes) {
   EXPECT_EQ(F::CopyFile("/dev/full", Z("src"), 1 << 16), ZEL_ERR_IO);
 }
 
-// The array form splits at its limit and fails at the end with ZEL_ERR_IO;
-// the string form fails with ZEL_ERR_READ_DENIED and keeps the text.
+// Reading fails at the end with ZEL_ERR_IO (array form) and with
+// ZEL_ERR_READ_DENIED (string form, which keeps the text); line ends are
+// written by flag, and a NUL ends the text.
 TEST_F(FileTest, TextLines) {
-  Spit("t", "a\rbc\0d\r\nef"s);
+  Spit("t", "ab");
   F f;
   ASSERT_EQ(f.Open(Z("t"), kR), 0u);
-  Lines lines;
-  char buf[4];
-  while (f.ReadTextLine(buf, 3) == 0) lines.emplace_back(buf);
-  EXPECT_EQ(f.ReadTextLine(buf, 3), ZEL_ERR_IO);
-  f.ToStart();
   CZEL_String line;
-  while (f.ReadTextLine(line) == 0) lines.push_back(Text(line));
-  EXPECT_EQ(f.ReadTextLine(line), ZEL_ERR_READ_DENIED);
-  EXPECT_EQ(lines, (Lines{"abc", "d", "ef", "abcd", "ef"}));
-  EXPECT_EQ(Text(line), "ef");
+  char buf[4];
+  EXPECT_EQ((Codes{f.ReadTextLine(line), f.ReadTextLine(line), f.ReadTextLine(buf, 3)}),
+            (Codes{0, ZEL_ERR_READ_DENIED, ZEL_ERR_IO}));
+  EXPECT_EQ(Text(line), "ab");
   for (auto const& row : {std::pair(0u, "ab"s),
                           {F::LINE_END_LF | F::LINE_END_CR, "ab\r\n"s},
                           {F::LINE_END_NUL | F::LINE_END_LF | F::LINE_END_CR, "ab\0\r\n"s},
@@ -167,16 +163,10 @@ TEST(BufferTest, BaseChecksAndTypedLayouts) {
 
 // The cursor stops at the end of the data but ToEnd goes behind the whole
 // last block; writing overwrites at the cursor and still grows the size.
-TEST(BufferTest, MemoryCursorAndCopies) {
+TEST(BufferTest, MemoryCursorAndAccess) {
   Probe b(4);
-  Put(b, "12345678");
-  EXPECT_ZEL_THROW(Take(b, 1), ZEL_ERR_OUT_OF_RANGE, &b);
-  EXPECT_EQ(Reread(b, 7), "1234567");
-  ZEL::u16 wide = 7;
-  EXPECT_ZEL_THROW(b >> wide, ZEL_ERR_OUT_OF_RANGE, &b);  // nothing moved
-  EXPECT_EQ(wide + b.GetAbsPosition() + b.IsEnd(), 14u);
-  b.DeleteAll();
   Put(b, "12345");
+  EXPECT_ZEL_THROW(Take(b, 1), ZEL_ERR_OUT_OF_RANGE, &b);
   b.ToEnd();
   EXPECT_EQ(b.GetAbsPosition(), 8u);
   Put(b, "x");  // leaves a gap of 3 unset bytes
@@ -184,9 +174,7 @@ TEST(BufferTest, MemoryCursorAndCopies) {
   Put(b, "ab");
   EXPECT_EQ(b.GetSize(), 8u);
   EXPECT_EQ(Reread(b, 5), "ab345");
-  CZEL_MemoryBuffer copy(b);  // copies take the blocks and the cursor
-  EXPECT_EQ(copy.GetAbsPosition(), 5u);
-  EXPECT_EQ(Reread(copy, 5), "ab345");
+  EXPECT_EQ(b.IsEnd(), 0);
   CZEL_MemoryBuffer none(0);
   EXPECT_EQ(CodeOf([&] { Put(none, "x"); }), ZEL_ERR_EMPTY_INPUT);
   b.SetAccess(B::ACCESS_READ);
@@ -253,24 +241,20 @@ TEST_F(FileBufferTest, WriteBehind) {
   EXPECT_EQ(full.GetSize(), 8000u);
 }
 
-// Byte by byte, the file is read at the first, the fourth and the eighth
-// call: each call that reaches the block's end refills at once.
+// The end mark waits for the first read; a rewind sees what another writer
+// appended.
 TEST_F(FileBufferTest, ReadAhead) {
   Spit("f", "0123456789");
   OpenFile(kR);
   CZEL_FileBuffer b(4);
   ASSERT_EQ(b.AttachFile(&m_File, B::ACCESS_READ), 0u);
-  EXPECT_EQ(b.IsEnd(), 1);  // the end mark waits for the first read
-  std::string got;
-  for (int i = 0; i < 10; ++i) {
-    got += Take(b, 1);
-    got += std::to_string(m_File.GetPos());
-  }
-  EXPECT_EQ(got, "04142438485868710810910");
+  EXPECT_EQ(b.IsEnd(), 1);
+  EXPECT_EQ(Take(b, 3), "012");
+  EXPECT_EQ(b.IsEnd(), 0);
+  EXPECT_EQ(Take(b, 7), "3456789");
   EXPECT_EQ(b.IsEnd(), 1);
   EXPECT_ZEL_THROW(Take(b, 1), ZEL_ERR_OUT_OF_RANGE, &b);
-  EXPECT_EQ(b.GetAbsPosition(), 10u);
-  F writer;  // a rewind sees what another writer appended
+  F writer;
   ASSERT_EQ(writer.Open(Z("f"), kW), 0u);
   writer.WriteText("ab");
   EXPECT_EQ(Reread(b, 12), "0123456789ab");
@@ -313,34 +297,19 @@ TEST_F(FileBufferTest, ValuesToFileAndBack) {
   EXPECT_TRUE(d1 == date);
 }
 
-// No rollback: a string whose characters are missing has taken the length;
-// an address keeps its kind. The invalid form's count stays behind, unknown
-// kinds throw, and counts and digits are taken as they come.
-TEST(StreamFormsTest, ReadingStopsWhereItFails) {
+// The invalid address's form leaves its count behind; unknown kinds throw.
+TEST(StreamFormsTest, AddressKinds) {
   CZEL_MemoryBuffer b(5);
-  CZEL_String s("abc");
-  CZEL_IpAddress const invalid;
   CZEL_IpAddress got(CZEL_String("9.9.9.9"));
-  b << invalid << CZEL_IpAddress(CZEL_String("1.2.3.4"));
-  EXPECT_EQ(b.GetSize(), 6u + 22u);
+  b << CZEL_IpAddress() << 7;
   b.ToStart();
   b >> got;
-  EXPECT_TRUE(got == invalid);
+  EXPECT_TRUE(got == CZEL_IpAddress());
   EXPECT_EQ(b.GetAbsPosition(), 2u);
-  auto reading = [&b](std::string const& bytes) -> CZEL_Buffer& {
-    b.DeleteAll();
-    Put(b, bytes);
-    b.ToStart();
-    return b;
-  };
-  EXPECT_ZEL_THROW(reading("\5\0\0\0xy"s) >> s, ZEL_ERR_OUT_OF_RANGE, &b);
-  EXPECT_EQ(Text(s) + std::to_string(b.GetAbsPosition()), "abc  4");
-  EXPECT_ZEL_THROW(reading("\2\0\4\0\0\0"s) >> got, ZEL_ERR_FAILED, &b);
-  reading("\0\0\3\0\0\0\x2C\1\0\0\x14\0\0\0\x1E\0\0\0"s) >> got;
-  EXPECT_EQ(Text(got.ToString()), "300.20.30.0");  // three digits, one out of range
-  EXPECT_ZEL_THROW(reading("\1\0\x08\0\0\0\7\0\0"s) >> got, ZEL_ERR_OUT_OF_RANGE, &b);
-  EXPECT_FALSE(got == invalid);  // the kind is kept
-  EXPECT_EQ(b.GetAbsPosition(), 6u);
+  b.DeleteAll();
+  Put(b, "\2\0"s);
+  b.ToStart();
+  EXPECT_ZEL_THROW(b >> got, ZEL_ERR_FAILED, &b);
 }
 
 }  // namespace
