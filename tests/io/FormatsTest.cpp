@@ -33,12 +33,10 @@ TEST_F(CsvFileTest, Writing) {
     CZEL_StringVector record = Record(fields);
     CZEL_StringList list;
     list = record;
-    for (bool byList : {false, true}) {
-      ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);
-      EXPECT_EQ(byList ? csv.WriteRecord(list) : csv.WriteRecord(record), 0u);
-      csv.Close();
-      EXPECT_EQ(OnDisk("w"), bytes);
-    }
+    ASSERT_EQ(csv.Open(Z("w"), kNewFile), 0u);
+    EXPECT_EQ(csv.WriteRecord(record) + csv.WriteRecord(list), 0u);
+    csv.Close();
+    EXPECT_EQ(OnDisk("w"), bytes + bytes);
   }
   EXPECT_ZEL_THROW(CZEL_CsvFile(0, ';', kCrLf), ZEL_ERR_INVALID_ARGUMENT, nullptr);
   CZEL_CsvFile csv(3, ';', kCrLf), bare(1, ';', 0);
@@ -51,44 +49,38 @@ TEST_F(CsvFileTest, Writing) {
 // The reader splits at every separator, knows no quotes, and fails the whole
 // file on one line of another field count, the count of records kept.
 TEST_F(CsvFileTest, Reading) {
-  struct Row {
-    std::string bytes;
-    u32 count;
-    std::vector<Lines> records;  // none: the reading fails
-  } const rows[] = {{"\"a;b\";c\n;b\r;c", 2, {{"\"a", "b\"", "c"}, {"", "b", "c"}}},
-                    {"a;b;c\na;\"b;c\";d\n", 2, {}},  // four fields on the page
-                    {"a;b;\n", 1, {}},                // an empty tail is no field
-                    {"a;b;c\n\n", 2, {}},             // nor has an empty line
-                    {"a;b;c\r\n\r", 1, {}}};          // a last line of dropped bytes fails unread
   CZEL_CsvFile csv(3, ';', kCrLf);
   u32 count = 7;
   EXPECT_EQ(csv.ReadFile(Z("missing"), count), nullptr);
   EXPECT_EQ(count, 7u);
   ASSERT_EQ(csv.Open(Z("out"), kNewFile), 0u);
-  for (Row const& row : rows) {
-    SCOPED_TRACE(row.bytes);
-    Spit("in", row.bytes);
-    CZEL_StringVector* records = csv.ReadFile(Z("in"), count);
-    std::vector<Lines> got(records != nullptr ? count : 0);
-    for (u32 i = 0; i < got.size(); ++i) {
-      for (u32 j = 0; j < records[i].GetLength(); ++j) got[i].push_back(Text(records[i][j]));
-    }
-    EXPECT_EQ(got, row.records);
-    EXPECT_EQ(count, row.count);
-    delete[] records;
+  for (auto const& [bytes, countAfter] : {std::pair("a;b;c\na;\"b;c\";d\n"s, 2u),  // four fields
+                                          {"a;b;\n"s, 1u},          // an empty tail is no field
+                                          {"a;b;c\n\n"s, 2u},       // nor has an empty line
+                                          {"a;b;c\r\n\r"s, 1u}}) {  // a line of dropped bytes
+    Spit("in", bytes);
+    EXPECT_EQ(csv.ReadFile(Z("in"), count), nullptr) << bytes;
+    EXPECT_EQ(count, countAfter) << bytes;
   }
+  Spit("in", "\"a;b\";c\n;b\r;c");
+  CZEL_StringVector* records = csv.ReadFile(Z("in"), count);
+  ASSERT_EQ(count, 2u);
+  EXPECT_EQ(Text(records[0][0]) + "|" + Text(records[0][1]) + "|" + Text(records[1][0]) + "|" +
+                Text(records[1][1]),
+            "\"a|b\"||b");
+  delete[] records;
   CZEL_StringVector record = Record({"a", "b", "c"});
   EXPECT_EQ(csv.WriteRecord(record), ZEL_ERR_FILE_NOT_OPEN);  // reading closed the object
 }
 
 // A bitmap file with its header fields under the test's control, a 3 x 2
-// true-colour image by default; the pixel bytes are 0, 1, 2, ... so that a
-// colour tells its address.
+// true-colour image by default; the pixel bytes are 0, 1, 2, ... (more than
+// any image here needs) so that a colour tells its address.
 struct Bmp {
   ZEL::u16 bits = 24;
   int width = 3;
   std::vector<u32> palette{};  // also the count of colours used
-  u32 size = 40, pixelBytes = 24, sizeImage = 0;
+  u32 size = 40, pixelBytes = 64, sizeImage = 0;
   int height = 2;
 
   std::string Bytes() const {
@@ -96,22 +88,15 @@ struct Bmp {
     auto put = [&b](u32 value, int width) {
       for (int i = 0; i < width; ++i) b += char(value >> (8 * i));
     };
-    for (u32 field : {0u, 0u, 14 + size + 4 * u32(palette.size()), size, u32(width), u32(height)})
+    u32 const colours = u32(palette.size());
+    for (u32 field : {0u, 0u, 14 + size + 4 * colours, size, u32(width), u32(height),
+                      1u | bits << 16, 0u, sizeImage, 1u, 2u, colours, 0u})
       put(field, 4);
-    put(1 | bits << 16, 4);
-    for (u32 field : {0u, sizeImage, 1u, 2u, u32(palette.size()), 0u}) put(field, 4);
     b.resize(14 + size);
     for (u32 entry : palette) put(entry, 4);
     for (u32 i = 0; i < pixelBytes; ++i) b += char(i);
     return b;
   }
-};
-
-// Opens the vectors to the checks.
-class Bitmap : public CZEL_WinBitmapData {
- public:
-  void const* Pixels() const { return &m_Pixels; }
-  void const* Palette() const { return &m_Palette; }
 };
 
 // The results of both queries at (x, y): codes, index and colour as
@@ -156,8 +141,9 @@ TEST_F(WinBitmapDataTest, HeaderChecks) {
   }
   CZEL_WinBitmapData::SInfoHeader info{};
   u32 offset = 0;
-  EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("none"), info, &offset), ZEL_ERR_IO);
-  EXPECT_EQ(CZEL_WinBitmapData().LoadFromFile(Z("none")), ZEL_ERR_IO);
+  EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("none"), info, &offset) +
+                m_Bitmap.LoadFromFile(Z("none")),
+            2 * ZEL_ERR_IO);
   Spit("t.bmp", Bmp().Bytes().substr(0, 54));
   ASSERT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("t.bmp"), info, &offset), 0u);
   EXPECT_EQ((Codes{offset, info.biSizeImage, u32(info.biYPelsPerMeter)}), (Codes{54, 24, 2}));
@@ -176,9 +162,9 @@ TEST_F(WinBitmapDataTest, HeaderChecks) {
 TEST_F(WinBitmapDataTest, Pixels) {
   std::vector<u32> palette = {0, 0xAA0000FF};
   for (u32 i = 2; i < 16; ++i) palette.push_back(i);
-  Bmp const topDown{24, 3, {}, 40, 24, 24, -2};
+  Bmp const topDown{24, 3, {}, 40, 64, 24, -2};
   u32 const kRdy = ZEL_ERR_NOT_READY, kOut = ZEL_ERR_OUT_OF_RANGE, kNo = ZEL_ERR_NOT_SUPPORTED;
-  struct Row {
+  struct {
     Bmp bmp;
     u32 x, y;
     Codes answer;
@@ -196,13 +182,10 @@ TEST_F(WinBitmapDataTest, Pixels) {
       {Bmp{8, 5, {1, 2, 3}, 124}, 2, 0, {0, 2, kRdy, 0}},  // row length 0
       {topDown, 0, 0x7FFFFFFF, {kRdy, 0, kOut, 0}},
   };
-  for (Row const& row : rows) {
-    SCOPED_TRACE(std::to_string(row.bmp.bits) + "/" + std::to_string(row.x) + "," +
-                 std::to_string(row.y));
-    Bmp bmp = row.bmp;
-    if (bmp.bits != 24 || bmp.width != 3) bmp.pixelBytes = 64;
+  for (auto const& row : rows) {
+    SCOPED_TRACE(&row - rows);
     CZEL_WinBitmapData bitmap;
-    ASSERT_EQ(Load(bmp.Bytes(), bitmap), 0u);
+    ASSERT_EQ(Load(row.bmp.Bytes(), bitmap), 0u);
     EXPECT_EQ(Ask(bitmap, row.x, row.y), row.answer);
   }
 }
@@ -211,16 +194,17 @@ TEST_F(WinBitmapDataTest, Pixels) {
 // fails at the palette or the pixels leaves a destroyed object; one that
 // fails at the header keeps the old palette and pixels.
 TEST_F(WinBitmapDataTest, ShortDataFailedLoadsAndCopies) {
-  Bitmap color, bytes;
+  CZEL_WinBitmapData color, bytes;
   ASSERT_EQ(Load(Bmp{24, 3, {}, 40, 13, 13}.Bytes(), color), 0u);
   ASSERT_EQ(Load(Bmp{8, 5, {1, 2}, 40, 16}.Bytes(), bytes), 0u);
   ZEL::t_WinRgbQuad c{};
   u32 index = 0;
-  EXPECT_ZEL_THROW(color.GetPixelColor(0, 0, c), ZEL_ERR_BAD_POSITION, color.Pixels());
-  EXPECT_EQ(color.GetPixelColor(1, 0, c), ZEL_ERR_OUT_OF_RANGE);  // byte 15 of 13
-  EXPECT_ZEL_THROW(bytes.GetPixelColor(2, 1, c), ZEL_ERR_BAD_POSITION, bytes.Palette());
-  EXPECT_ZEL_THROW(bytes.GetPixelColorIndex(0, 0xFFFFFFFF, index), ZEL_ERR_BAD_POSITION,
-                   bytes.Pixels());
+  // Queries that reach past the bytes held throw from the vectors.
+  EXPECT_EQ((Codes{CodeOf([&] { color.GetPixelColor(0, 0, c); }), color.GetPixelColor(1, 0, c),
+                   CodeOf([&] { bytes.GetPixelColor(2, 1, c); }),
+                   CodeOf([&] { bytes.GetPixelColorIndex(0, 0xFFFFFFFF, index); })}),
+            (Codes{ZEL_ERR_BAD_POSITION, ZEL_ERR_OUT_OF_RANGE, ZEL_ERR_BAD_POSITION,
+                   ZEL_ERR_BAD_POSITION}));
   std::string const good = Bmp{8, 5, {7, 8, 9, 10}, 40, 16}.Bytes();
   for (std::string const& cut : {good.substr(0, 60), good.substr(0, good.size() - 1)}) {
     ASSERT_EQ(Load(Bmp().Bytes(), m_Bitmap), 0u);
@@ -232,12 +216,8 @@ TEST_F(WinBitmapDataTest, ShortDataFailedLoadsAndCopies) {
   }
   ASSERT_EQ(Load(good, bytes), 0u);
   EXPECT_EQ(Load(good.substr(0, 40), bytes), ZEL_ERR_BAD_FORMAT);
-  CZEL_WinBitmapData copy(bytes), assigned;
-  assigned = bytes;
-  bytes.Destroy();
-  EXPECT_EQ(Ask(copy, 1, 1), Ask(assigned, 1, 1));
-  EXPECT_EQ(Ask(copy, 1, 1), (Codes{0, 1, 0, 8}));
-  EXPECT_ZEL_THROW(Load(Bmp{24, 0}.Bytes(), bytes), ZEL_ERR_EMPTY_INPUT, bytes.Pixels());
+  EXPECT_EQ(Ask(bytes, 1, 1), (Codes{0, 1, 0, 8}));
+  EXPECT_EQ(CodeOf([&] { Load(Bmp{24, 0}.Bytes(), bytes); }), ZEL_ERR_EMPTY_INPUT);
 }
 
 }  // namespace
