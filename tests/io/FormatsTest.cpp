@@ -62,13 +62,6 @@ TEST_F(CsvFileTest, Reading) {
     EXPECT_EQ(csv.ReadFile(Z("in"), count), nullptr) << bytes;
     EXPECT_EQ(count, countAfter) << bytes;
   }
-  Spit("in", "\"a;b\";c\n;b\r;c");
-  CZEL_StringVector* records = csv.ReadFile(Z("in"), count);
-  ASSERT_EQ(count, 2u);
-  EXPECT_EQ(Text(records[0][0]) + "|" + Text(records[0][1]) + "|" + Text(records[1][0]) + "|" +
-                Text(records[1][1]),
-            "\"a|b\"||b");
-  delete[] records;
   CZEL_StringVector record = Record({"a", "b", "c"});
   EXPECT_EQ(csv.WriteRecord(record), ZEL_ERR_FILE_NOT_OPEN);  // reading closed the object
 }
@@ -147,8 +140,7 @@ TEST_F(WinBitmapDataTest, HeaderChecks) {
   Spit("t.bmp", Bmp().Bytes().substr(0, 54));
   ASSERT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("t.bmp"), info, &offset), 0u);
   EXPECT_EQ((Codes{offset, info.biSizeImage, u32(info.biYPelsPerMeter)}), (Codes{54, 24, 2}));
-  u32 const depths[][3] = {{1, 0, 2},  {4, 0, 16}, {8, 0, 256},   {16, 0, 0},
-                           {32, 0, 0}, {24, 3, 3}, {8, 65537, 1}, {8, 65536, 0}};
+  u32 const depths[][3] = {{4, 0, 16}, {32, 0, 0}, {24, 3, 3}, {8, 65537, 1}, {8, 65536, 0}};
   for (auto const& d : depths) {
     info.biBitCount = ZEL::u16(d[0]);
     info.biClrUsed = d[1];
@@ -173,8 +165,7 @@ TEST_F(WinBitmapDataTest, Pixels) {
       {Bmp(), 3, 0, {kRdy, 0, kOut, 0}},
       {Bmp(), 0xAAAAAAAC, 0, {kRdy, 0, 0, 0x121110}},  // x * 3 wraps to 4
       {Bmp{8, 5, palette}, 1, 1, {0, 1, 0, 0xAA0000FF}},
-      {Bmp{8, 5, palette}, 3, 0, {0, 11, 0, 0x00000B}},  // byte 8 + 3
-      {Bmp{8, 5, palette}, 0, 2, {kOut, 0, kOut, 0}},
+      {Bmp{8, 5, palette}, 3, 0, {0, 11, 0, 0x00000B}},       // byte 8 + 3
       {Bmp{1, 9, {0, 0xFFFFFF}}, 5, 0, {0, 1, 0, 0xFFFFFF}},  // byte 4 (0x04): bit 2
       {Bmp{1, 9, {0, 0xFFFFFF}}, 8, 0, {0, 0, 0, 0}},         // byte 5: bit 7 of 0x05
       {Bmp{4, 5, std::vector<u32>(16)}, 2, 0, {kNo, 0, kNo, 0}},
@@ -206,14 +197,12 @@ TEST_F(WinBitmapDataTest, ShortDataFailedLoadsAndCopies) {
             (Codes{ZEL_ERR_BAD_POSITION, ZEL_ERR_OUT_OF_RANGE, ZEL_ERR_BAD_POSITION,
                    ZEL_ERR_BAD_POSITION}));
   std::string const good = Bmp{8, 5, {7, 8, 9, 10}, 40, 16}.Bytes();
-  for (std::string const& cut : {good.substr(0, 60), good.substr(0, good.size() - 1)}) {
-    ASSERT_EQ(Load(Bmp().Bytes(), m_Bitmap), 0u);
-    EXPECT_EQ(Load(cut, m_Bitmap), ZEL_ERR_IO);
-    CZEL_WinBitmapData::SInfoHeader const& info = *m_Bitmap.GetInfo();
-    EXPECT_EQ(info.biWidth | info.biHeight | info.biBitCount, 0);
-    EXPECT_EQ(info.biClrUsed, 4u);  // the rest of the header stays
-    EXPECT_EQ(Ask(m_Bitmap, 0, 0), (Codes{ZEL_ERR_OUT_OF_RANGE, 0, ZEL_ERR_OUT_OF_RANGE, 0}));
-  }
+  ASSERT_EQ(Load(Bmp().Bytes(), m_Bitmap), 0u);
+  EXPECT_EQ(Load(good.substr(0, 60), m_Bitmap), ZEL_ERR_IO);  // in the palette
+  CZEL_WinBitmapData::SInfoHeader const& info = *m_Bitmap.GetInfo();
+  EXPECT_EQ(info.biWidth | info.biHeight | info.biBitCount, 0);
+  EXPECT_EQ(info.biClrUsed, 4u);  // the rest of the header stays
+  EXPECT_EQ(Ask(m_Bitmap, 0, 0), (Codes{ZEL_ERR_OUT_OF_RANGE, 0, ZEL_ERR_OUT_OF_RANGE, 0}));
   ASSERT_EQ(Load(good, bytes), 0u);
   EXPECT_EQ(Load(good.substr(0, 40), bytes), ZEL_ERR_BAD_FORMAT);
   EXPECT_EQ(Ask(bytes, 1, 1), (Codes{0, 1, 0, 8}));

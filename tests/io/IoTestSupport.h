@@ -8,8 +8,6 @@
 #include <LZEL_Core/frame/ZEL_Errors.h>
 #include <LZEL_Core/io/ZEL_Io.h>
 
-#include <gtest/gtest.h>
-
 #include <unistd.h>
 
 #include <cstdlib>
