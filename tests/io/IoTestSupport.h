@@ -1,18 +1,18 @@
 // Helpers shared by the input and output tests: a private temporary
-// directory per test, and whole-file reads and writes through plain stdio so
-// that what a class left on disk is checked byte by byte.
+// directory per test, and whole-file reads and writes through plain streams
+// so that what a class left on disk is checked byte by byte.
 
 #ifndef LZEL_TESTS_IO_IO_TEST_SUPPORT_H_
 #define LZEL_TESTS_IO_IO_TEST_SUPPORT_H_
 
-#include <LZEL_Core/text/CZEL_String.h>
-
-#include <gtest/gtest.h>
+#include <LZEL_Core/frame/ZEL_Errors.h>
+#include <LZEL_Core/io/ZEL_Io.h>
 
 #include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -20,7 +20,10 @@
 
 namespace zel_test {
 
-using Bytes = std::vector<unsigned char>;
+using F = CZEL_File;
+using B = CZEL_Buffer;
+using Lines = std::vector<std::string>;
+using Codes = std::vector<ZEL::u32>;
 
 // The code of the CZEL_Exception that `run` throws, or 0: for the failures of
 // an object inside the one under test, whose address a test can't know.
@@ -35,47 +38,27 @@ ZEL::u32 CodeOf(Run run) {
 }
 
 inline std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
-
-// The whole content of the file at `path`; empty if it can't be read.
-inline std::string Slurp(std::string const& path) {
-  std::string content;
-  if (std::FILE* f = std::fopen(path.c_str(), "rb")) {
-    char buf[4096];
-    for (std::size_t n; (n = std::fread(buf, 1, sizeof buf, f)) > 0;) content.append(buf, n);
-    std::fclose(f);
-  }
-  return content;
-}
-
-inline Bytes SlurpBytes(std::string const& path) {
-  std::string const s = Slurp(path);
-  return Bytes(s.begin(), s.end());
-}
-
-// Creates or replaces the file at `path` with `content`.
-inline void Spit(std::string const& path, std::string const& content) {
-  std::FILE* f = std::fopen(path.c_str(), "wb");
-  ASSERT_NE(f, nullptr) << path;
-  std::fwrite(content.data(), 1, content.size(), f);
-  std::fclose(f);
-}
+inline CZEL_String Make(std::string const& s) { return CZEL_String(s.data(), ZEL::u32(s.size())); }
 
 // A fixture with its own directory, made fresh and removed with what it holds.
 class TempDirTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    std::string pattern = (std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp");
-    pattern += "/lzel_io_XXXXXX";
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    m_Dir = pattern;
+    m_Dir = std::string(std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") + "/lzel_io_XXXXXX";
+    ASSERT_NE(mkdtemp(m_Dir.data()), nullptr);
   }
-  void TearDown() override {
-    std::string const command = "rm -rf '" + m_Dir + "'";
-    ASSERT_EQ(std::system(command.c_str()), 0);
-  }
-  // The path of `name` inside the directory.
+  void TearDown() override { ASSERT_EQ(std::system(("rm -rf '" + m_Dir + "'").c_str()), 0); }
   std::string PathOf(std::string const& name) const { return m_Dir + "/" + name; }
   CZEL_String Z(std::string const& name) const { return CZEL_String(PathOf(name).c_str()); }
+  // The whole content of the file `name`; empty if it can't be read.
+  std::string OnDisk(std::string const& name) const {
+    std::ifstream in(PathOf(name), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  }
+  // Creates or replaces the file `name` with `content`.
+  void Spit(std::string const& name, std::string const& content) const {
+    std::ofstream(PathOf(name), std::ios::binary) << content;
+  }
 
   std::string m_Dir;
 };
