@@ -153,6 +153,18 @@ TEST(BufferTest, LayoutsAndCursor) {
   EXPECT_EQ(CodeOf([&] { Put(none, "x"); }), ZEL_ERR_EMPTY_INPUT);
 }
 
+TEST(BufferTest, UnknownAddressKindThrows) {
+  // Kind 2 is neither IPv4, IPv6 nor invalid: the reader throws from the
+  // buffer and leaves the address invalid.
+  CZEL_MemoryBuffer b;
+  b << ZEL::u16(2);
+  b << ZEL::u32(0);
+  b.ToStart();
+  CZEL_IpAddress address(CZEL_String("1.2.3.4"));
+  EXPECT_ZEL_THROW(b >> address, ZEL_ERR_FAILED, &b);
+  EXPECT_EQ(address.ToString().GetLength(), 0u);
+}
+
 class FileBufferTest : public TempDirTest {
  protected:
   void OpenFile(ZEL::u32 flags) { ASSERT_EQ(m_File.Open(Z("f"), flags), 0u); }
