@@ -153,6 +153,31 @@ TEST(BufferTest, LayoutsAndCursor) {
   EXPECT_EQ(CodeOf([&] { Put(none, "x"); }), ZEL_ERR_EMPTY_INPUT);
 }
 
+TEST(BufferTest, TypedValuesReadBackAndBaseRefuses) {
+  CZEL_MemoryBuffer b(5);
+  b << 2.5;
+  b << 1.5f;
+  b << short(-3);
+  b << static_cast<signed char>(-4);
+  b << ZEL::u64(5);
+  b << ZEL::u8(6);
+  b << 'c';
+  CZEL_MemoryBuffer copy(b);  // blocks of its own
+  copy.ToStart();
+  double d = 0;
+  float f = 0;
+  short h = 0;
+  signed char sc = 0;
+  ZEL::u64 q = 0;
+  ZEL::u8 u = 0;
+  char c = 0;
+  copy >> d, copy >> f, copy >> h, copy >> sc, copy >> q, copy >> u, copy >> c;
+  EXPECT_TRUE(d == 2.5 && f == 1.5f && h == -3 && sc == -4 && q == 5 && u == 6 && c == 'c');
+  CZEL_Buffer base;
+  EXPECT_ZEL_THROW(base.ToStart(), ZEL_ERR_NOT_SUPPORTED, &base);
+  EXPECT_ZEL_THROW(Take(base, 1), ZEL_ERR_NOT_SUPPORTED, &base);
+}
+
 TEST(BufferTest, UnknownAddressKindThrows) {
   // Kind 2 is neither IPv4, IPv6 nor invalid: the reader throws from the
   // buffer and leaves the address invalid.

@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace std::string_literals;
@@ -203,3 +204,33 @@ TEST(CZEL_StringTest, ExtractTagsAndEncapsulatedStrings) {
 }
 
 }  // namespace
+
+TEST(CZEL_StringTest, SmallEditsAndNumberForms) {
+  CZEL_String s("banana");
+  s.RemoveChar('n').ReplaceChar('a', 'o');  // "booo"
+  s.SetChar(1, 'e');
+  s.SetChar(9, 'x');  // past the end: nothing
+  char c_text[8];
+  s.ToStringC(c_text);
+  EXPECT_STREQ(c_text, "beoo");
+  EXPECT_STREQ(CZEL_String("abcdef").ResizeRightFromPos(4).GetStringC(), "ef");
+  EXPECT_STREQ(CZEL_String("toolong").SetFormatted(4, CZEL_String::ALIGN_LEFT, '.').GetStringC(),
+               "tool");
+  s = 'z';
+  EXPECT_TRUE((s != CZEL_String("y")) && (s >= CZEL_String("y")) && (s > CZEL_String("y")) &&
+              (CZEL_String("y") <= s));
+  std::pair<char, char const*> const forms[] = {{'f', "0.5"}, {'F', "0.5"},     {'g', "0.5"},
+                                                {'G', "0.5"}, {'e', "5.0e-01"}, {'E', "5.0E-01"},
+                                                {'x', ""}};
+  for (auto const& form : forms) {
+    EXPECT_STREQ(s.SetFromNumber(0.5, form.first, 1).GetStringC(), form.second) << form.first;
+  }
+  EXPECT_STREQ(s.SetFromNumber(ZEL::i64(-42)).GetStringC(), "-42");
+  EXPECT_STREQ(s.SetFromNumber(ZEL::u64(255), 16, 0, ' ').GetStringC(), "ff");
+  EXPECT_DOUBLE_EQ(CZEL_String("2.5e1x").ToDouble(), 25.0);
+  CZEL_StringVector tags;
+  CZEL_String("a,,b").ExtractTags(',', tags);
+  EXPECT_EQ(tags.GetLength(), 3u);
+  CZEL_String("").ExtractTags(',', tags);
+  EXPECT_EQ(tags.GetLength(), 0u);
+}
