@@ -313,13 +313,6 @@ void InvertByteOrder(u8* buffer, u32 size) {
   }
 }
 
-t_WinRgbQuad ToWinRgbQuad32Bit(u32 color) {
-  t_WinRgbQuad quad;
-  quad.blue = static_cast<u16>(color & 0xFFu);
-  quad.green = static_cast<u16>((color >> 8) & 0xFFu);
-  quad.red = static_cast<u16>((color >> 16) & 0xFFu);
-  quad.reserved = static_cast<u16>((color >> 24) & 0xFFu);
-  return quad;
-}
+t_WinRgbQuad ToWinRgbQuad32Bit(u32 color) { return internal::SplitWinRgbQuad(color); }
 
 }  // namespace ZEL

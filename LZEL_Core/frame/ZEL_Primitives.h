@@ -219,6 +219,15 @@ ZEL_API void InvertByteOrder(u8* buffer, u32 size);
 // `reserved` 24-31.
 ZEL_API t_WinRgbQuad ToWinRgbQuad32Bit(u32 color);
 
+namespace internal {
+// The split of `ToWinRgbQuad32Bit`, inline for the library's pixel queries,
+// which must call nothing out of line inside a caller's pixel loop.
+inline t_WinRgbQuad SplitWinRgbQuad(u32 color) {
+  auto const byte = [color](int shift) { return static_cast<u16>((color >> shift) & 0xFFu); };
+  return t_WinRgbQuad{byte(16), byte(8), byte(0), byte(24)};
+}
+}  // namespace internal
+
 }  // namespace ZEL
 
 #endif  // LZEL_CORE_FRAME_ZEL_PRIMITIVES_H_

@@ -204,12 +204,6 @@ class ZEL_API CZEL_WinBitmapData : public CZEL_Object {
 
   // The stored row of image row `y`: rows run bottom-up for a positive height.
   ZEL::u32 StoredRow(ZEL::u32 y) const;
-
-  // The colour of a palette entry, split as `ZEL::ToWinRgbQuad32Bit` splits
-  // it. Spelled out here so that a query calls nothing outside this header:
-  // a call anywhere in a caller's pixel loop would make the compiler reload
-  // the header fields for every pixel.
-  static ZEL::t_WinRgbQuad PaletteColor(ZEL::u32 entry);
 };
 
 // -----------------------------------------------------------------------------
@@ -244,11 +238,6 @@ inline ZEL::u32 CZEL_WinBitmapData::CheckInside(ZEL::u32 x, ZEL::u32 y) const {
 
 inline ZEL::u32 CZEL_WinBitmapData::StoredRow(ZEL::u32 y) const {
   return m_Info.biHeight > 0 ? static_cast<ZEL::u32>(m_Info.biHeight) - y - 1 : y;
-}
-
-inline ZEL::t_WinRgbQuad CZEL_WinBitmapData::PaletteColor(ZEL::u32 entry) {
-  auto const byte = [entry](int shift) { return static_cast<ZEL::u16>((entry >> shift) & 0xFF); };
-  return ZEL::t_WinRgbQuad{byte(16), byte(8), byte(0), byte(24)};
 }
 
 inline ZEL::u32 CZEL_WinBitmapData::GetPixelColorIndexNoCheck(ZEL::u32 x, ZEL::u32 y,
@@ -287,7 +276,7 @@ inline ZEL::u32 CZEL_WinBitmapData::GetPixelColor(ZEL::u32 x, ZEL::u32 y,
     ZEL::u32 colidx = 0;
     result = GetPixelColorIndexNoCheck(x, y, colidx);
     if (result != ZEL_ERR_NONE) return result;
-    color = PaletteColor(m_Palette[colidx]);
+    color = ZEL::internal::SplitWinRgbQuad(m_Palette[colidx]);
     return ZEL_ERR_NONE;
   }
   if (m_Info.biBitCount != 24) return ZEL_ERR_NOT_SUPPORTED;
