@@ -16,6 +16,9 @@
 // `m_Object` is only a record of which object failed; it stays valid only as
 // long as that object lives, and the library never looks at it. `m_Extra` is
 // 0 at every throw of the library and is kept for the application's own use.
+// `What()` names the code for a log line. The class stays outside the
+// `std::exception` tree, so an existing `catch (std::exception const&)` never
+// takes it.
 
 #ifndef LZEL_CORE_FRAME_CZEL_EXCEPTION_H_
 #define LZEL_CORE_FRAME_CZEL_EXCEPTION_H_
@@ -37,6 +40,10 @@ class ZEL_API CZEL_Exception {
 
   // Does nothing; the class's only virtual operation.
   virtual ~CZEL_Exception();
+
+  // The name of `m_Code`, as `ZEL::ErrorName` gives it: "ZEL_ERR_BAD_POSITION",
+  // or "unknown" for a number that names no code. A static text, never null.
+  char const* What() const;
 
   // One of the error codes of ZEL_Errors.h.
   ZEL::u32 m_Code;

@@ -14,6 +14,7 @@
 //     ZEL::u32 v = vector[10];
 //   } catch (CZEL_Exception const& e) {
 //     if (e.m_Code == ZEL_ERR_BAD_POSITION) { ... }
+//     std::fprintf(stderr, "%s\n", e.What());   // "ZEL_ERR_BAD_POSITION"
 //   }
 
 #ifndef LZEL_CORE_FRAME_ZEL_ERRORS_H_
@@ -49,5 +50,14 @@ constexpr ZEL::u32 ZEL_ERR_READ_DENIED = 24;
 constexpr ZEL::u32 ZEL_ERR_IO = 30;
 // The operation can't work on this object as it stands.
 constexpr ZEL::u32 ZEL_ERR_FAILED = 32;
+
+namespace ZEL {
+
+// The name of the error code `code` as it is spelled above, such as
+// "ZEL_ERR_BAD_POSITION" for 5, or "unknown" for a number that names no code.
+// The text is static: it is never released and never changes.
+ZEL_API char const* ErrorName(u32 code);
+
+}  // namespace ZEL
 
 #endif  // LZEL_CORE_FRAME_ZEL_ERRORS_H_

@@ -33,6 +33,30 @@ TEST(CZEL_ExceptionTest, DefaultIsAllZeroAndCopyKeepsAllFields) {
               copy.m_Extra == 7);
 }
 
+// Every code has its constant's name; numbers between the codes have none.
+TEST(CZEL_ExceptionTest, ErrorNamesSpellTheConstants) {
+  struct {
+    u32 code;
+    char const* name;
+  } const rows[] = {{ZEL_ERR_NONE, "ZEL_ERR_NONE"},
+                    {ZEL_ERR_BAD_POSITION, "ZEL_ERR_BAD_POSITION"},
+                    {ZEL_ERR_FAILED, "ZEL_ERR_FAILED"},
+                    {4, "unknown"},
+                    {33, "unknown"},
+                    {kMaxU32, "unknown"}};
+  for (auto const& row : rows) {
+    EXPECT_STREQ(ErrorName(row.code), row.name) << row.code;
+    EXPECT_STREQ(CZEL_Exception(row.code, nullptr, 0).What(), row.name);
+  }
+  for (u32 code = 0; code < 40; ++code) {  // each name is its code's alone
+    for (u32 other = code + 1; other < 40; ++other) {
+      if (std::strcmp(ErrorName(code), "unknown") != 0) {
+        EXPECT_STRNE(ErrorName(code), ErrorName(other));
+      }
+    }
+  }
+}
+
 // The mask is cut at the word's top and is empty past it, at width 0 and
 // when start + width wraps in 32 bits. SetBit wraps at 32 on narrow words
 // and ignores positions past the wide ones.
