@@ -198,8 +198,10 @@ CZEL_String& CZEL_String::operator+=(char const* text) {
   return *this;
 }
 
+// The commonest growth of all goes straight to the resize.
 CZEL_String& CZEL_String::operator+=(char c) {
-  Splice(m_Length, 0, SPiece{&c, 1});
+  Resize(m_Length + 1);
+  m_Text[m_Length - 1] = c;
   return *this;
 }
 
@@ -303,7 +305,8 @@ CZEL_String& CZEL_String::ResizeRightFromPos(u32 pos) { return ResizeMid(pos, m_
 // -----------------------------------------------------------------------------
 
 CZEL_String& CZEL_String::Insert(char c, u32 pos) {
-  if (pos <= m_Length) Splice(pos, 0, SPiece{&c, 1});
+  if (pos == m_Length) return *this += c;
+  if (pos < m_Length) Splice(pos, 0, SPiece{&c, 1});
   return *this;
 }
 
