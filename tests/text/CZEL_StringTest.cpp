@@ -7,7 +7,9 @@
 
 #include <initializer_list>
 #include <limits>
+#include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -202,6 +204,65 @@ TEST(CZEL_StringTest, ExtractTagsAndEncapsulatedStrings) {
     EXPECT_TRUE(Holds(out, e.out)) << e.text;
   }
 }
+
+// Each operator with a `char const*` on either side gives what it gives
+// with a string made from the text; the string holds "a\0b".
+TEST(CZEL_StringTest, MixedComparisonsMatchStringComparisons) {
+  auto flags = [](auto const& l, auto const& r) {
+    return (l == r) | (l != r) << 1 | (l < r) << 2 | (l <= r) << 3 | (l > r) << 4 | (l >= r) << 5;
+  };
+  CZEL_String const s("a\0b", 3);
+  for (char const* text : {"a", "", "ab", "\xE9"}) {
+    CZEL_String const t(text);
+    EXPECT_EQ(flags(s, text), flags(s, t)) << text;
+    EXPECT_EQ(flags(text, s), flags(t, s)) << text;
+  }
+  EXPECT_EQ(flags(s, "a"), 1 | 8 | 32);
+  std::map<CZEL_String, int> const sorted{{CZEL_String("b"), 2}, {CZEL_String("a"), 1}};
+  EXPECT_EQ(sorted.begin()->second, 1);
+}
+
+// A move hands the buffer over and leaves the source empty, except that an
+// equal non-zero length keeps the target's buffer, as a copy does.
+TEST(CZEL_StringTest, MovesSwapsAndViews) {
+  CZEL_String a("abc");
+  char const* buffer = a.GetStringC();
+  CZEL_String b(std::move(a));
+  EXPECT_EQ(b.GetStringC(), buffer);
+  CZEL_String c("xyz");
+  char const* kept = c.GetStringC();
+  c = std::move(b);
+  CZEL_String& self = c;
+  c = std::move(self);
+  EXPECT_TRUE(Holds(a, "") && Holds(b, "") && Holds(c, "abc") && c.GetStringC() == kept);
+  b = CZEL_String(std::string_view("q\0r", 3));
+  swap(a += b, c);
+  EXPECT_TRUE(Holds(a, "abc") && Holds(c, "q\0r"s) && a.GetStringC() == kept);
+  EXPECT_EQ(c.View(), "q\0r"s);
+  CZEL_String const& view = c;
+  EXPECT_EQ(std::string(view.begin(), view.end()), "q\0r"s);
+  EXPECT_EQ(c.end() - c.begin(), 3);
+}
+
+// The buffer stays exactly length + 1 bytes as it grows in place: one byte
+// further is outside the allocation.
+#if defined(__SANITIZE_ADDRESS__)
+#define ZEL_TEST_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ZEL_TEST_ASAN 1
+#endif
+#endif
+#ifdef ZEL_TEST_ASAN
+TEST(CZEL_StringDeathTest, GrownBufferEndsAtItsTerminator) {
+  CZEL_String s("ab");
+  for (int i = 0; i < 300; ++i) s.Insert('x', s.GetLength()) += s.Left(i % 3);
+  s.SetLength(s.GetLength() + 1, 'y');
+  EXPECT_EQ(s.GetStringC()[s.GetLength()], 0);
+  char const volatile* text = s.GetStringC();
+  EXPECT_DEATH(static_cast<void>(text[s.GetLength() + 1]), "heap-buffer-overflow");
+}
+#endif
 
 }  // namespace
 
