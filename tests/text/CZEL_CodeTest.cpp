@@ -103,11 +103,8 @@ TEST(CZEL_CodeTest, CopiesAreIndependentInEitherOrder) {
   code.SetField("a", "x");
   code = static_cast<CZEL_Code const&>(code);
   EXPECT_EQ(Text(code.GetString()), "x=");
-  CZEL_Code moved(std::move(code));  // moves and swaps hand the nodes over
-  CZEL_Code other;
+  CZEL_Code moved(std::move(code)), other;  // moves and swaps hand the nodes over
   other = std::move(moved);
-  CZEL_Code& self = other;
-  other = std::move(self);
   swap(code, other);
   EXPECT_EQ(Text(code.GetString()) + Text(other.GetString()) + Text(moved.GetString()), "x=");
 }
