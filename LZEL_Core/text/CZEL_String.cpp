@@ -142,7 +142,8 @@ CZEL_String::CZEL_String(char const* text, u32 count) : m_Text(nullptr), m_Lengt
 }
 
 CZEL_String::CZEL_String(std::string_view text)
-    : CZEL_String(text.data(), static_cast<u32>(std::min<std::size_t>(text.size(), UINT32_MAX))) {}
+    : CZEL_String(text.data(), static_cast<u32>(std::min<std::size_t>(
+                                   text.size(), std::numeric_limits<u32>::max()))) {}
 
 CZEL_String::~CZEL_String() { DeleteBuffer(); }
 
