@@ -3,6 +3,8 @@
 #include <LZEL_Core/containers/CZEL_StringList.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
+#include <utility>
+
 using ZEL::u32;
 using ZEL::u8;
 
@@ -49,6 +51,19 @@ struct SListRelease {
     if (m_List == nullptr) return;
     m_List->ToStart();
     for (u32 i = 0; i < m_List->GetLength(); ++i) ReleaseData(m_List->Next(1));
+  }
+};
+
+// Exchanges the arrays of two vectors of one type in constant time. The
+// vector has no exchange of its own; its array and its length are protected
+// fields, reached through member pointers named in a class derived from it.
+template <typename T>
+struct SVectorStorage : CZEL_Vector<T> {
+  static void Swap(CZEL_Vector<T>& a, CZEL_Vector<T>& b) noexcept {
+    T* CZEL_Vector<T>::*const buf = &SVectorStorage::m_Buf;
+    u32 CZEL_Vector<T>::*const length = &SVectorStorage::m_Length;
+    std::swap(a.*buf, b.*buf);
+    std::swap(a.*length, b.*length);
   }
 };
 
@@ -111,11 +126,27 @@ CZEL_Code::CZEL_Code(CZEL_String const& format) { Format(format); }
 
 CZEL_Code::CZEL_Code(CZEL_Code const& other) : CZEL_Object(other) { DataCopy(other); }
 
+CZEL_Code::CZEL_Code(CZEL_Code&& other) noexcept { Swap(other); }
+
 CZEL_Code::~CZEL_Code() { ClearFormat(); }
 
 CZEL_Code& CZEL_Code::operator=(CZEL_Code const& other) {
   DataCopy(other);
   return *this;
+}
+
+// The old template goes with the local that takes it over; moved onto
+// itself, the object gets its own template back.
+CZEL_Code& CZEL_Code::operator=(CZEL_Code&& other) noexcept {
+  CZEL_Code taken(std::move(other));
+  Swap(taken);
+  return *this;
+}
+
+void CZEL_Code::Swap(CZEL_Code& other) noexcept {
+  SVectorStorage<CZEL_String>::Swap(m_Names, other.m_Names);
+  SVectorStorage<CZEL_String>::Swap(m_Values, other.m_Values);
+  SVectorStorage<CFormatNode>::Swap(m_Nodes, other.m_Nodes);
 }
 
 // Each node gets a copy of its data, so that either object can be formatted

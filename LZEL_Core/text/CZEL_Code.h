@@ -39,6 +39,7 @@
 // Field names are compared as strings are, case-sensitively. Nothing here
 // throws a `CZEL_Exception`: `Format` returns a code, and everything else
 // has a quiet result. Copies are independent: each holds nodes of its own.
+// A move or a `Swap` hands the nodes over in constant time, without copying.
 
 #ifndef LZEL_CORE_TEXT_CZEL_CODE_H_
 #define LZEL_CORE_TEXT_CZEL_CODE_H_
@@ -120,12 +121,23 @@ class ZEL_API CZEL_Code : public CZEL_Object {
   // A copy with a template, names and values of its own.
   CZEL_Code(CZEL_Code const& other);
 
+  // Takes over the template, names and values of `other` in constant time,
+  // without allocating; `other` is left empty.
+  CZEL_Code(CZEL_Code&& other) noexcept;
+
   // Releases the template.
   ~CZEL_Code() override;
 
   // Becomes a copy of `other`, releasing its own template first. Assigning
   // an object to itself changes nothing.
   CZEL_Code& operator=(CZEL_Code const& other);
+
+  // Releases its own template and takes over that of `other`, which is left
+  // empty. Moving an object onto itself changes nothing.
+  CZEL_Code& operator=(CZEL_Code&& other) noexcept;
+
+  // Exchanges templates, names and values with `other` in constant time.
+  void Swap(CZEL_Code& other) noexcept;
 
   // ---------------------------------------------------------------------------
   // Template
@@ -189,6 +201,10 @@ class ZEL_API CZEL_Code : public CZEL_Object {
   // The parsed template, in order.
   CFormatVector m_Nodes;
 };
+
+// `a.Swap(b)`, found by argument-dependent lookup, for `std::sort` and
+// `using std::swap; swap(a, b)`.
+inline void swap(CZEL_Code& a, CZEL_Code& b) noexcept { a.Swap(b); }
 
 // The containers of nodes are compiled once, in the library, with the other
 // container instances.

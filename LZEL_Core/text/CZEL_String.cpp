@@ -10,6 +10,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
+#include <limits>
+#include <new>
 #include <utility>
 
 using ZEL::i64;
@@ -24,6 +27,17 @@ namespace {
 u32 Cut(u32 count, u32 limit) { return std::min(count, limit); }
 
 u32 TextLength(char const* text) { return static_cast<u32>(std::strlen(text)); }
+
+// The text of every moved-from string: one terminator, shared, never written
+// and never freed. A move leaves it behind so that it needs no allocation.
+char const kEmptyText[1] = {0};
+
+char* EmptyText() { return const_cast<char*>(kEmptyText); }
+
+// Frees a buffer of the C allocator; the shared empty text stays.
+void FreeText(char* text) {
+  if (text != kEmptyText) std::free(text);
+}
 
 // One pass of the runtime formatter, guarded: the length of the output, or
 // -1 if the formatter reported an error or anything escaped from it.
@@ -113,6 +127,11 @@ CZEL_String::CZEL_String(char c) : m_Text(nullptr), m_Length(0) {
   m_Text[0] = c;
 }
 
+CZEL_String::CZEL_String(CZEL_String&& src) noexcept : m_Text(src.m_Text), m_Length(src.m_Length) {
+  src.m_Text = EmptyText();
+  src.m_Length = 0;
+}
+
 CZEL_String::CZEL_String(u32 count, char c) : m_Text(nullptr), m_Length(0) { Build(count, c); }
 
 CZEL_String::CZEL_String(char const* text) : CZEL_String(text, TextLength(text)) {}
@@ -121,6 +140,10 @@ CZEL_String::CZEL_String(char const* text, u32 count) : m_Text(nullptr), m_Lengt
   NewBuffer(count);
   if (count != 0) std::memcpy(m_Text, text, count);
 }
+
+CZEL_String::CZEL_String(std::string_view text)
+    : CZEL_String(text.data(), static_cast<u32>(std::min<std::size_t>(
+                                   text.size(), std::numeric_limits<u32>::max()))) {}
 
 CZEL_String::~CZEL_String() { DeleteBuffer(); }
 
@@ -131,6 +154,25 @@ CZEL_String::~CZEL_String() { DeleteBuffer(); }
 CZEL_String& CZEL_String::operator=(CZEL_String const& src) {
   DataCopy(src);
   return *this;
+}
+
+// An equal non-zero length takes the bytes into the kept buffer, as the copy
+// does; this covers a move onto itself too. Otherwise the source's buffer is
+// taken over, and with it the old one goes, through a local that frees it.
+CZEL_String& CZEL_String::operator=(CZEL_String&& src) noexcept {
+  if (m_Length == src.m_Length && m_Length != 0) {
+    std::memmove(m_Text, src.m_Text, m_Length + 1);
+    if (&src != this) src.Adopt(EmptyText(), 0);
+  } else {
+    CZEL_String taken(std::move(src));
+    Swap(taken);
+  }
+  return *this;
+}
+
+void CZEL_String::Swap(CZEL_String& other) noexcept {
+  std::swap(m_Text, other.m_Text);
+  std::swap(m_Length, other.m_Length);
 }
 
 CZEL_String& CZEL_String::operator=(char c) {
@@ -157,8 +199,10 @@ CZEL_String& CZEL_String::operator+=(char const* text) {
   return *this;
 }
 
+// The commonest growth of all goes straight to the resize.
 CZEL_String& CZEL_String::operator+=(char c) {
-  Splice(m_Length, 0, SPiece{&c, 1});
+  Resize(m_Length + 1);
+  m_Text[m_Length - 1] = c;
   return *this;
 }
 
@@ -206,6 +250,13 @@ void CZEL_String::ToStringC(char* dest) const {
   std::memcpy(dest, m_Text, m_Length);
   dest[m_Length] = 0;
 }
+
+char* CZEL_String::begin() { return m_Text; }
+char* CZEL_String::end() { return m_Text + m_Length; }
+char const* CZEL_String::begin() const { return m_Text; }
+char const* CZEL_String::end() const { return m_Text + m_Length; }
+
+std::string_view CZEL_String::View() const { return std::string_view(m_Text, m_Length); }
 
 // -----------------------------------------------------------------------------
 // Substrings
@@ -255,7 +306,8 @@ CZEL_String& CZEL_String::ResizeRightFromPos(u32 pos) { return ResizeMid(pos, m_
 // -----------------------------------------------------------------------------
 
 CZEL_String& CZEL_String::Insert(char c, u32 pos) {
-  if (pos <= m_Length) Splice(pos, 0, SPiece{&c, 1});
+  if (pos == m_Length) return *this += c;
+  if (pos < m_Length) Splice(pos, 0, SPiece{&c, 1});
   return *this;
 }
 
@@ -380,8 +432,7 @@ CZEL_String& CZEL_String::SetFormatted(u32 width, t_Align align, char fill) {
       break;
   }
   // The field is exact already: take its buffer and let it free ours.
-  std::swap(m_Text, field.m_Text);
-  std::swap(m_Length, field.m_Length);
+  Swap(field);
   return *this;
 }
 
@@ -419,12 +470,19 @@ signed char CZEL_String::CompareNoMatchingCase(CZEL_String const& a, CZEL_String
   return a.CompareNoMatchingCase(b);
 }
 
-u8 CZEL_String::operator==(CZEL_String const& other) { return CompareMatchingCase(other) == 0; }
-u8 CZEL_String::operator!=(CZEL_String const& other) { return CompareMatchingCase(other) != 0; }
-u8 CZEL_String::operator<(CZEL_String const& other) { return CompareMatchingCase(other) < 0; }
-u8 CZEL_String::operator<=(CZEL_String const& other) { return CompareMatchingCase(other) < 1; }
-u8 CZEL_String::operator>(CZEL_String const& other) { return CompareMatchingCase(other) > 0; }
-u8 CZEL_String::operator>=(CZEL_String const& other) { return CompareMatchingCase(other) >= 0; }
+u8 CZEL_String::operator==(CZEL_String const& other) const { return *this == other.m_Text; }
+u8 CZEL_String::operator!=(CZEL_String const& other) const { return *this != other.m_Text; }
+u8 CZEL_String::operator<(CZEL_String const& other) const { return *this < other.m_Text; }
+u8 CZEL_String::operator<=(CZEL_String const& other) const { return *this <= other.m_Text; }
+u8 CZEL_String::operator>(CZEL_String const& other) const { return *this > other.m_Text; }
+u8 CZEL_String::operator>=(CZEL_String const& other) const { return *this >= other.m_Text; }
+
+u8 CZEL_String::operator==(char const* text) const { return CS_Compare(m_Text, text) == 0; }
+u8 CZEL_String::operator!=(char const* text) const { return CS_Compare(m_Text, text) != 0; }
+u8 CZEL_String::operator<(char const* text) const { return CS_Compare(m_Text, text) < 0; }
+u8 CZEL_String::operator<=(char const* text) const { return CS_Compare(m_Text, text) < 1; }
+u8 CZEL_String::operator>(char const* text) const { return CS_Compare(m_Text, text) > 0; }
+u8 CZEL_String::operator>=(char const* text) const { return CS_Compare(m_Text, text) >= 0; }
 
 u8 operator==(char const* text, CZEL_String const& s) {
   return CZEL_String::CS_Compare(text, s.GetStringC()) == 0;
@@ -693,7 +751,7 @@ void CZEL_String::ClearBuffer() {
 
 void CZEL_String::DeleteBuffer() {
   if (m_Text == nullptr) return;
-  delete[] m_Text;
+  FreeText(m_Text);
   m_Text = nullptr;
   m_Length = 0;
 }
@@ -706,15 +764,32 @@ void CZEL_String::DataCopy(CZEL_String const& src) {
 }
 
 char* CZEL_String::Allocate(u32 length) {
-  char* buffer = new char[static_cast<std::size_t>(length) + 1];
+  auto* buffer = static_cast<char*>(std::malloc(static_cast<std::size_t>(length) + 1));
+  if (buffer == nullptr) throw std::bad_alloc();
   buffer[length] = 0;
   return buffer;
 }
 
 void CZEL_String::Adopt(char* buffer, u32 length) {
-  delete[] m_Text;
+  FreeText(m_Text);
   m_Text = buffer;
   m_Length = length;
+}
+
+// `realloc` keeps the old buffer when it fails. The shared empty text isn't
+// the allocator's, so it is replaced, not resized.
+void CZEL_String::Resize(u32 length) {
+  std::size_t const size = static_cast<std::size_t>(length) + 1;
+  void* buffer = m_Text == kEmptyText ? std::malloc(size) : std::realloc(m_Text, size);
+  if (buffer == nullptr) throw std::bad_alloc();
+  m_Text = static_cast<char*>(buffer);
+  m_Length = length;
+  m_Text[length] = 0;
+}
+
+bool CZEL_String::IsOwnText(char const* text) const {
+  return std::less_equal<char const*>()(m_Text, text) &&
+         std::less_equal<char const*>()(text, m_Text + m_Length);
 }
 
 CZEL_String::SPiece CZEL_String::LeftPart(u32 count) const {
@@ -731,8 +806,19 @@ CZEL_String::SPiece CZEL_String::MidPart(u32 pos, u32 count) const {
   return SPiece{m_Text + pos, Cut(count, m_Length - pos)};
 }
 
+// A growing text that keeps its head grows its buffer in place where the
+// allocator can; a `b` from this text is found again at its offset, since
+// growing keeps every old byte.
 void CZEL_String::Compose(SPiece a, SPiece b, SPiece c) {
   u32 length = a.m_Length + b.m_Length + c.m_Length;
+  if (a.m_Text == m_Text && c.m_Length == 0 && length >= m_Length) {
+    bool const own = b.m_Text != nullptr && IsOwnText(b.m_Text);
+    std::size_t const offset = own ? static_cast<std::size_t>(b.m_Text - m_Text) : 0;
+    Resize(length);
+    char const* from = own ? m_Text + offset : b.m_Text;
+    if (from != nullptr && b.m_Length != 0) std::memmove(m_Text + a.m_Length, from, b.m_Length);
+    return;
+  }
   char* buffer = Allocate(length);
   char* at = buffer;
   for (SPiece const& piece : {a, b, c}) {

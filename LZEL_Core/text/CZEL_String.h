@@ -21,8 +21,13 @@
 // Storage
 //
 // A string owns one buffer of exactly `GetLength()` + 1 bytes, the last of
-// them a terminator. There is no spare capacity and no sharing: every edit
-// that changes the length builds a new exact buffer, and copies are deep.
+// them a terminator. There is no spare capacity and no sharing, and copies
+// are deep. The buffer comes from the C allocator: an edit that keeps the
+// head of the text and grows it (`+=`, `Insert` at the end, `SetLength`)
+// resizes the buffer with `realloc`, which grows it in place or remaps it
+// where it can, so that appending one character at a time costs time in
+// proportion to the final length in practice; other edits build a new
+// exact buffer. A move takes the buffer over and leaves the source empty.
 // The length is what counts, so a string may hold bytes of 0 in the middle
 // (the constructor from a pointer and a count, `Build`, `SetChar`,
 // `SetLength` and `operator+=(char)` can put them there). Operations that
@@ -32,15 +37,17 @@
 // The pointer from `GetStringC()` is the buffer itself. It stays valid only
 // until the next change of the string: `SetChar`, `ReplaceChar` and `SetCase`
 // alone keep the buffer, and so does assigning a string of equal non-zero
-// length.
+// length, copied or moved. `begin()` and `end()` span the same bytes, so
+// range-for and the standard algorithms work on the text, and `View()` gives
+// it as a `std::string_view`.
 //
 // Comparison and search
 //
 // Comparisons read a string as NUL-terminated text, up to its first 0 byte,
 // and order bytes as signed chars, so bytes from 128 up sort before all of
 // ASCII. Searches read all `GetLength()` characters, zeros included. The
-// relational operators are case-sensitive members that are not const; the
-// static comparators `CompareMatchingCase` and `CompareNoMatchingCase` have
+// relational operators are case-sensitive, take a `char const*` on either
+// side and compile as C++17 and C++20 alike; the static comparators `CompareMatchingCase` and `CompareNoMatchingCase` have
 // the form that the containers' `Sort` takes.
 //
 // Quiet bounds
@@ -59,6 +66,8 @@
 
 #include <LZEL_Core/frame/CZEL_Object.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
+
+#include <string_view>
 
 // The containers that `ExtractTags` fills; their headers include this one.
 class CZEL_StringList;
@@ -97,6 +106,10 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // A deep copy of `src`.
   CZEL_String(CZEL_String const& src);
 
+  // Takes over the buffer of `src` in constant time, without allocating;
+  // `src` is left empty and usable.
+  CZEL_String(CZEL_String&& src) noexcept;
+
   // The one character `c`; length 1 also for a `c` of 0.
   CZEL_String(char c);
 
@@ -109,6 +122,10 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // Exactly `count` bytes from `text`, zeros included.
   CZEL_String(char const* text, ZEL::u32 count);
 
+  // Every byte of `text`, zeros included; a view of 4 GiB or more is cut to
+  // its first 2^32 - 1 bytes.
+  explicit CZEL_String(std::string_view text);
+
   // Releases the buffer.
   ~CZEL_String() override;
 
@@ -118,6 +135,16 @@ class ZEL_API CZEL_String : public CZEL_Object {
 
   // A copy of `src`. Assigning a string to itself changes nothing.
   CZEL_String& operator=(CZEL_String const& src);
+
+  // Takes over the text of `src`, which is left empty. As with the copy, a
+  // string of equal non-zero length keeps its buffer and takes the bytes;
+  // otherwise the buffer of `src` is taken over in constant time. Moving a
+  // string onto itself changes nothing.
+  CZEL_String& operator=(CZEL_String&& src) noexcept;
+
+  // Exchanges the texts of the two strings, buffers and all, in constant
+  // time.
+  void Swap(CZEL_String& other) noexcept;
 
   // The one character `c`; length 1 also for a `c` of 0.
   CZEL_String& operator=(char c);
@@ -162,6 +189,18 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // Copies the text and a terminator into `dest`, which must hold
   // `GetLength()` + 1 bytes.
   void ToStringC(char* dest) const;
+
+  // The first byte and the place after the last one, of all `GetLength()`
+  // bytes; equal for an empty string. Like `GetStringC()`, valid until the
+  // next change of the string.
+  char* begin();
+  char* end();
+  char const* begin() const;
+  char const* end() const;
+
+  // All `GetLength()` bytes, zeros included, without the terminator; valid
+  // until the next change of the string.
+  std::string_view View() const;
 
   // ---------------------------------------------------------------------------
   // Substrings: a new string, this one left alone
@@ -309,14 +348,23 @@ class ZEL_API CZEL_String : public CZEL_Object {
   static signed char CompareNoMatchingCase(CZEL_String const& a, CZEL_String const& b);
 
   // 1 or 0 by `CompareMatchingCase(other)`: equal, unequal, below, at most,
-  // above, at least. Case-sensitive. A `char const*` on the right converts
-  // to a string; these members are not const.
-  ZEL::u8 operator==(CZEL_String const& other);
-  ZEL::u8 operator!=(CZEL_String const& other);
-  ZEL::u8 operator<(CZEL_String const& other);
-  ZEL::u8 operator<=(CZEL_String const& other);
-  ZEL::u8 operator>(CZEL_String const& other);
-  ZEL::u8 operator>=(CZEL_String const& other);
+  // above, at least. Case-sensitive.
+  ZEL::u8 operator==(CZEL_String const& other) const;
+  ZEL::u8 operator!=(CZEL_String const& other) const;
+  ZEL::u8 operator<(CZEL_String const& other) const;
+  ZEL::u8 operator<=(CZEL_String const& other) const;
+  ZEL::u8 operator>(CZEL_String const& other) const;
+  ZEL::u8 operator>=(CZEL_String const& other) const;
+
+  // The same against the NUL-terminated `text`, by `CS_Compare(GetStringC(),
+  // text)`: the result a string made from `text` would give. These exact
+  // forms keep C++20 from trying the reversed ones.
+  ZEL::u8 operator==(char const* text) const;
+  ZEL::u8 operator!=(char const* text) const;
+  ZEL::u8 operator<(char const* text) const;
+  ZEL::u8 operator<=(char const* text) const;
+  ZEL::u8 operator>(char const* text) const;
+  ZEL::u8 operator>=(char const* text) const;
 
   // ---------------------------------------------------------------------------
   // Search
@@ -451,7 +499,8 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // already.
   void ClearBuffer();
 
-  // Frees the buffer and leaves a null buffer of length 0, the one state in
+  // Frees the buffer (the shared empty text of a moved-from string is never
+  // freed) and leaves a null buffer of length 0, the one state in
   // which the buffer is null; the caller must give the string a buffer again
   // (or be destroying it).
   void DeleteBuffer();
@@ -484,6 +533,8 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // Replaces the text by the pieces `a`, `b`, `c` in a new exact buffer. The
   // pieces may point into the old text, which is freed only afterwards. A
   // piece with a null text reserves its room, left for the caller to fill.
+  // When `a` is the head of the text, `c` is empty and the text doesn't
+  // shrink, the buffer is resized instead and `b` copied behind the head.
   void Compose(SPiece a, SPiece b = SPiece{nullptr, 0}, SPiece c = SPiece{nullptr, 0});
 
   // Replaces `removed` characters at `pos` by `insert`; both must lie within
@@ -491,10 +542,19 @@ class ZEL_API CZEL_String : public CZEL_Object {
   void Splice(ZEL::u32 pos, ZEL::u32 removed, SPiece insert);
 
   // A new buffer of `length` + 1 bytes with a terminator at `length`.
+  // Throws std::bad_alloc if there is no memory.
   static char* Allocate(ZEL::u32 length);
 
   // Takes over `buffer` of `length` + 1 bytes and frees the old one.
   void Adopt(char* buffer, ZEL::u32 length);
+
+  // Resizes the buffer to `length` + 1 bytes, keeping the bytes both sizes
+  // share, and terminates it. Throws std::bad_alloc, the text untouched, if
+  // there is no memory.
+  void Resize(ZEL::u32 length);
+
+  // 1 if `text` points into this string's buffer, terminator included.
+  bool IsOwnText(char const* text) const;
 
   // 1 if `s` occurs at `pos` under `matchCase`; a character of `s` that
   // would lie at or past the end of this text is a mismatch. The matcher of
@@ -521,5 +581,9 @@ ZEL_API ZEL::u8 operator<(char const* text, CZEL_String const& s);
 ZEL_API ZEL::u8 operator<=(char const* text, CZEL_String const& s);
 ZEL_API ZEL::u8 operator>(char const* text, CZEL_String const& s);
 ZEL_API ZEL::u8 operator>=(char const* text, CZEL_String const& s);
+
+// `a.Swap(b)`, found by argument-dependent lookup, so that `std::sort` and
+// `using std::swap; swap(a, b)` exchange buffers instead of copying texts.
+inline void swap(CZEL_String& a, CZEL_String& b) noexcept { a.Swap(b); }
 
 #endif  // LZEL_CORE_TEXT_CZEL_STRING_H_

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -102,6 +103,10 @@ TEST(CZEL_CodeTest, CopiesAreIndependentInEitherOrder) {
   code.SetField("a", "x");
   code = static_cast<CZEL_Code const&>(code);
   EXPECT_EQ(Text(code.GetString()), "x=");
+  CZEL_Code moved(std::move(code)), other;  // moves and swaps hand the nodes over
+  other = std::move(moved);
+  swap(code, other);
+  EXPECT_EQ(Text(code.GetString()) + Text(other.GetString()) + Text(moved.GetString()), "x=");
 }
 
 }  // namespace

@@ -5,9 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <limits>
+#include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -16,18 +19,13 @@ using namespace std::string_literals;
 namespace {
 
 std::string Text(CZEL_String const& s) { return std::string(s.GetStringC(), s.GetLength()); }
-CZEL_String Make(std::string const& text) {
-  return CZEL_String(text.data(), static_cast<ZEL::u32>(text.size()));
-}
+CZEL_String Make(std::string const& text) { return CZEL_String(std::string_view(text)); }
 
 // The string holds `expected`, every byte, in a buffer with a terminator after them.
 ::testing::AssertionResult Holds(CZEL_String const& s, std::string const& expected) {
-  if (s.GetStringC() == nullptr || s.GetStringC()[s.GetLength()] != 0) {
-    return ::testing::AssertionFailure() << "no terminated buffer";
-  }
-  if (Text(s) == expected) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure()
-         << "holds \"" << Text(s) << "\", expected \"" << expected << '"';
+  if (*s.end() == 0 && s.View() == expected) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "holds \"" << Text(s) << "\" (terminated: " << !*s.end()
+                                       << "), expected \"" << expected << '"';
 }
 
 CZEL_String const kXY("XY");
@@ -59,44 +57,48 @@ struct Edit {
 // (width - length) / 2, or at 0 when it doesn't fit.
 TEST(CZEL_StringTest, EditsAtTheirBounds) {
   std::string const longText(100000, 'q');
-  for (Edit const& e : {
-           EXPR("abc", s = static_cast<CZEL_String const&>(s), "abc"),
-           EXPR("xyz", s = s.GetStringC() + 1, "yz"),
-           EXPR("ab", s += s, "abab"),
-           EXPR("x", s += CZEL_String("ab\0c", 4), "xab\0c"s),
-           EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),
-           EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
-           GET("abc", Left(99), "abc"),
-           GET("abc", Right(99), "abc"),
-           EDIT("abc", ResizeLeft(4), "abc"),
-           EDIT("abc", ResizeRight(4), "abc"),
-           GET("abc", Mid(1, 0xFFFFFFFF), "bc"),
-           EDIT("abc", ResizeMid(3, 1), ""),
-           GET("abc", Mid(3, 1), ""),
-           EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),
-           EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
-           EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),
-           EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
-           EDIT("abc", Insert('x', 4), "abc"),
-           EDIT("abc", RemoveChars(1, 99), "a"),
-           EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),
-           EDIT("abcd", ReplaceChars(kXY, 1, 1, 2), "aYd"),
-           EDIT("abcd", ReplaceChars(kXY, 9, 0, 2), "abcdXY"),
-           EDIT("abcd", ReplaceString(kXYZ, 1, 9, 0, 3), "aXYZ"),
-           EDIT("abcd", ReplaceString(kXYZ, 1, 1, 0, 3), "aXYZcd"),
-           EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3), "aXYZabcd"),  // 4 - 1 - ~0: 4
-           EDIT("  a  ", Trim(' ', 1), "a  "),
-           EDIT("  a  ", Trim(' ', 2), "  a"),
-           EDIT("  a  ", Trim(' ', 3), "a"),
-           EDIT("  a  ", Trim(' ', 4), "  a  "),
-           EDIT("   ", Trim(' ', 3), ""),
-           FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."),
-           FIT("ab", 3, CZEL_String::ALIGN_CENTER, "ab."),
-           FIT("abcd", 2, CZEL_String::ALIGN_RIGHT, "cd"),
-           FIT("abcd", 2, CZEL_String::ALIGN_CENTER, "ab"),
-           FIT("abcd", 3, 7, "..."),
-           EDIT("abc", Format("<%s>", std::string(100000, 'q').c_str()), "<" + longText + ">"),
-       }) {
+  for (Edit const& e :
+       {EXPR("abc", s = static_cast<CZEL_String const&>(s), "abc"),
+        EXPR("xyz", s = s.GetStringC() + 1, "yz"),
+        EXPR("ab", s += s, "abab"),
+        EXPR("x", s += CZEL_String("ab\0c", 4), "xab\0c"s),
+        EDIT("abc", Insert(s, 1, 0, 3), "aabcbc"),
+        EDIT("abcd", ReplaceChars(s, 2, 0, 2), "abab"),
+        GET("abc", Left(99), "abc"),
+        GET("abc", Right(99), "abc"),
+        EDIT("abc", ResizeLeft(4), "abc"),
+        EDIT("abc", ResizeRight(4), "abc"),
+        GET("abc", Mid(1, 0xFFFFFFFF), "bc"),
+        EDIT("abc", ResizeMid(3, 1), ""),
+        GET("abc", Mid(3, 1), ""),
+        EDIT("ab", Insert(kAbcdef, 1, 2, 2), "ab"),
+        EDIT("ab", Insert(kAbcdef, 1, 1, 3), "abcdb"),
+        EDIT("ab", Insert(kXYZ, 2, 1, 100), "abYZ"),
+        EDIT("ab", Insert(kXYZ, 3, 0, 3), "ab"),
+        EDIT("abc", Insert('x', 4), "abc"),
+        EDIT("abc", RemoveChars(1, 99), "a"),
+        EDIT("abcd", ReplaceChars(kXY, 1, 5, 2), "ad"),
+        EDIT("abcd", ReplaceChars(kXY, 1, 1, 2), "aYd"),
+        EDIT("abcd", ReplaceChars(kXY, 9, 0, 2), "abcdXY"),
+        EDIT("abcd", ReplaceString(kXYZ, 1, 9, 0, 3), "aXYZ"),
+        EDIT("abcd", ReplaceString(kXYZ, 1, 1, 0, 3), "aXYZcd"),
+        EDIT("abcd", ReplaceString(kXYZ, 1, 0xFFFFFFFF, 0, 3), "aXYZabcd"),  // 4 - 1 - ~0: 4
+        EDIT("  a  ", Trim(' ', 1), "a  "),
+        EDIT("  a  ", Trim(' ', 2), "  a"),
+        EDIT("  a  ", Trim(' ', 3), "a"),
+        EDIT("  a  ", Trim(' ', 4), "  a  "),
+        EDIT("   ", Trim(' ', 3), ""),
+        FIT("ab", 5, CZEL_String::ALIGN_CENTER, ".ab.."),
+        FIT("ab", 3, CZEL_String::ALIGN_CENTER, "ab."),
+        FIT("abcd", 2, CZEL_String::ALIGN_RIGHT, "cd"),
+        FIT("abcd", 2, CZEL_String::ALIGN_CENTER, "ab"),
+        FIT("abcd", 3, 7, "..."),
+        EDIT("abc", Format("<%s>", std::string(100000, 'q').c_str()), "<" + longText + ">"),
+        EXPR("abc", s = '\0', "\0"s),
+        EXPR("abc", s = std::move(static_cast<CZEL_String&>(s)), "abc"),
+        EXPR("ab\0c"s, s = CZEL_String(s.View()), "ab\0c"s),
+        EXPR("abc", (std::reverse(s.begin(), s.end()), s), "cba"),
+        EXPR("abc", (CZEL_String(std::move(s)), s += 'q'), "q")}) {
     SCOPED_TRACE(::testing::Message() << e.expr << " on \"" << e.start << '"');
     CZEL_String s = Make(e.start);
     EXPECT_EQ(&e.edit(s), &s);
@@ -137,15 +139,19 @@ TEST(CZEL_StringTest, NumbersToAndFromText) {
   }
 }
 
-// Bytes compare as signed chars; "blind" ignores case.
+// Bytes compare as signed chars; "blind" ignores case. Each relational
+// operator gives the same with a `char const*` on either side.
 TEST(CZEL_StringTest, CompareOrdersSignedBytes) {
+  auto flags = [](auto const& l, auto const& r) {
+    return (l == r) | (l != r) << 1 | (l < r) << 2 | (l <= r) << 3 | (l > r) << 4 | (l >= r) << 5;
+  };
   struct Case {
     char const* a;
     char const* b;
     signed char matching, blind;
   } const cases[] = {
       {"a", "ab", -1, -1},  {"\xE9", "A", -1, -1}, {"abc\xE9", "abc", 1, 1},
-      {"abc", "ABC", 1, 0}, {"_", "z", -1, 1},
+      {"abc", "ABC", 1, 0}, {"_", "z", -1, 1},     {"a", "a", 0, 0},
   };
   for (Case const& c : cases) {
     SCOPED_TRACE(::testing::Message() << c.a << " / " << c.b);
@@ -153,8 +159,11 @@ TEST(CZEL_StringTest, CompareOrdersSignedBytes) {
     CZEL_String const b(c.b);
     EXPECT_EQ(CZEL_String::CS_Compare(c.a, c.b), c.matching);
     EXPECT_EQ(a.CompareNoMatchingCase(b), c.blind);
-    EXPECT_EQ(a < b, c.matching < 0);
+    int const expected = c.matching == 0 ? 1 | 8 | 32 : c.matching < 0 ? 2 | 4 | 8 : 2 | 16 | 32;
+    EXPECT_TRUE(flags(a, b) == expected && flags(a, c.b) == expected && flags(c.a, b) == expected);
   }
+  std::map<CZEL_String, int> const sorted{{CZEL_String("b"), 2}, {CZEL_String("a"), 1}};
+  EXPECT_EQ(sorted.begin()->second, 1);
 }
 
 // FindFromEnd of a character from the length finds the terminator; FindFromBegin doesn't.
@@ -203,6 +212,36 @@ TEST(CZEL_StringTest, ExtractTagsAndEncapsulatedStrings) {
   }
 }
 
+// A move hands the buffer over and leaves the source empty, except that an
+// equal non-zero length keeps the target's buffer, as a copy does.
+TEST(CZEL_StringTest, MovesHandTheBufferOver) {
+  CZEL_String a("abc"), b, c("xyz");
+  char const* kept = c.GetStringC();
+  swap(a, b);
+  c = CZEL_String(std::move(b));
+  CZEL_String d(std::move(c));
+  EXPECT_TRUE(Holds(a, "") && Holds(b, "") && Holds(c, "") && Holds(d, "abc") &&
+              d.GetStringC() == kept);
+}
+
+// The buffer stays exactly length + 1 bytes as it grows in place: one byte
+// further is outside the allocation.
+#if defined(__SANITIZE_ADDRESS__)
+#define ZEL_TEST_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ZEL_TEST_ASAN 1
+#endif
+#endif
+#ifdef ZEL_TEST_ASAN
+TEST(CZEL_StringDeathTest, GrownBufferEndsAtItsTerminator) {
+  CZEL_String s("ab");
+  for (int i = 0; i < 300; ++i) s.Insert('x', s.GetLength()) += s.Left(i % 3);
+  char const volatile* text = s.SetLength(s.GetLength() + 1, 'y').GetStringC();
+  EXPECT_DEATH(static_cast<void>(text[s.GetLength() + 1]), "heap-buffer-overflow");
+}
+#endif
+
 }  // namespace
 
 TEST(CZEL_StringTest, SmallEditsAndNumberForms) {
@@ -216,9 +255,6 @@ TEST(CZEL_StringTest, SmallEditsAndNumberForms) {
   EXPECT_STREQ(CZEL_String("abcdef").ResizeRightFromPos(4).GetStringC(), "ef");
   EXPECT_STREQ(CZEL_String("toolong").SetFormatted(4, CZEL_String::ALIGN_LEFT, '.').GetStringC(),
                "tool");
-  s = 'z';
-  EXPECT_TRUE((s != CZEL_String("y")) && (s >= CZEL_String("y")) && (s > CZEL_String("y")) &&
-              (CZEL_String("y") <= s));
   std::pair<char, char const*> const forms[] = {{'f', "0.5"}, {'F', "0.5"},     {'g', "0.5"},
                                                 {'G', "0.5"}, {'e', "5.0e-01"}, {'E', "5.0E-01"},
                                                 {'x', ""}};
