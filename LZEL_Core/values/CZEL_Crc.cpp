@@ -201,7 +201,7 @@ T* CloneTable(T const* table) {
 // The low `width` bits of `value` in reverse order.
 template <typename T>
 T ReflectWidth(T value) {
-  return T(ZEL::ReflectUint64(value) >> (64 - 8 * sizeof(T)));
+  return T(ZEL::crc_engine::Reflect64(value) >> (64 - 8 * sizeof(T)));
 }
 
 }  // namespace
@@ -570,7 +570,7 @@ u64 CZEL_Crc::Finish() const {
   if (IsMilStd1760()) return m_Running;
   RunningEngine();
   u64 reg = m_Running;
-  if (m_ReflectOutput != 0) reg = ZEL::ReflectUint64(reg) >> (64 - m_Size);
+  if (m_ReflectOutput != 0) reg = ZEL::crc_engine::Reflect64(reg) >> (64 - m_Size);
   return LowBits(reg ^ m_FinalXor, m_Size);
 }
 

@@ -84,8 +84,8 @@ void FillFoldConstants(SCrcWide& w, u64 q, bool reflected) {
   for (u32 i = 0; i < 4; ++i) {
     u64(&k)[2] = *constants[i];
     if (reflected) {
-      k[1] = ReflectUint64(upTo(distances[i] - 1));
-      k[0] = ReflectUint64(upTo(distances[i] + 63));
+      k[1] = Reflect64(upTo(distances[i] - 1));
+      k[0] = Reflect64(upTo(distances[i] + 63));
     } else {
       k[0] = upTo(distances[i]);
       k[1] = upTo(distances[i] + 64);
@@ -302,29 +302,25 @@ void BuildCrcEngine(SCrcEngine& e, u32 width, u64 polynomial, bool reflectInput)
   e.bytesSeen.store(0, std::memory_order_relaxed);
   u64 const q = polynomial << e.shift;  // bits above the width fall out
   e.polynomial = q;
-  if (!reflectInput) {
-    FillByteTable<u64>(e.byteTable, q);
-    return;
+  u64 bits[8];
+  FillByteTableBits(bits, q);
+  if (reflectInput) {
+    // Byte b taken least-significant-bit first is the reversed byte taken
+    // most-significant-bit first, its contribution reversed as a whole; that
+    // too is linear in b, bit k standing for bit 7 - k.
+    u64 const normal[8] = {bits[0], bits[1], bits[2], bits[3], bits[4], bits[5], bits[6], bits[7]};
+    for (u32 k = 0; k < 8; ++k) bits[k] = Reflect64(normal[7 - k]);
   }
-  // Byte b taken least-significant-bit first is the reversed byte taken
-  // most-significant-bit first, its contribution reversed as a whole; that
-  // too is linear in b.
-  u64 normal[256];
-  FillByteTable<u64>(normal, q);
-  e.byteTable[0] = 0;
-  for (u32 high = 1; high < 256; high <<= 1) {
-    u64 const bit = ReflectUint64(normal[ReflectUint8(u8(high))]);
-    for (u32 low = 0; low < high; ++low) e.byteTable[high + low] = bit ^ e.byteTable[low];
-  }
+  FillLinearTable(e.byteTable, bits);
 }
 
 u64 RunCrcEngine(SCrcEngine const& e, u64 reg, u8 const* data, u64 size) {
   u32 const s = e.shift;
   SCrcWide const* wide = WideFor(e, size);
   if (e.reflected != 0) {
-    u64 const r = ReflectUint64(reg << s);
-    return ReflectUint64(wide != nullptr ? Run<true>(*wide, r, data, size)
-                                         : RunBytes<true>(e.byteTable, r, data, size)) >>
+    u64 const r = Reflect64(reg << s);
+    return Reflect64(wide != nullptr ? Run<true>(*wide, r, data, size)
+                                     : RunBytes<true>(e.byteTable, r, data, size)) >>
            s;
   }
   u64 const r = reg << s;

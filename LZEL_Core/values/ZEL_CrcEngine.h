@@ -75,23 +75,51 @@ struct SCrcEngine {
   mutable std::atomic<u64> bytesSeen{0};
 };
 
-// The 256-entry byte table of a CRC of the width of T with `polynomial` in
-// normal form: entry i is i at the top of the register, shifted left eight
-// times, XORed with the polynomial whenever the top bit falls out. The table
-// is linear in i, so only the single bits are shifted out and every other
-// entry is the XOR of two earlier ones.
+// `value` with its 64 bits in reverse order, inline for the short paths.
+inline u64 Reflect64(u64 v) {
+  v = ((v & 0x5555555555555555ull) << 1) | ((v >> 1) & 0x5555555555555555ull);
+  v = ((v & 0x3333333333333333ull) << 2) | ((v >> 2) & 0x3333333333333333ull);
+  v = ((v & 0x0F0F0F0F0F0F0F0Full) << 4) | ((v >> 4) & 0x0F0F0F0F0F0F0F0Full);
+  v = ((v & 0x00FF00FF00FF00FFull) << 8) | ((v >> 8) & 0x00FF00FF00FF00FFull);
+  v = ((v & 0x0000FFFF0000FFFFull) << 16) | ((v >> 16) & 0x0000FFFF0000FFFFull);
+  return (v << 32) | (v >> 32);
+}
+
+// The entries 1, 2, 4, ..., 128 of the byte table below: bit k at the top of
+// the register, shifted left eight times, XORed with `polynomial` (normal
+// form) whenever the top bit falls out. Each is the one before times x.
 template <typename T>
-void FillByteTable(T* table, T polynomial) {
+void FillByteTableBits(T (&bits)[8], T polynomial) {
   constexpr u32 kBits = 8 * sizeof(T);
   auto const timesX = [polynomial](T r) {
     return T(T(r << 1) ^ (((r >> (kBits - 1)) & 1u) != 0 ? polynomial : T(0)));
   };
   T bit = T(T(1) << (kBits - 8));
   for (int step = 0; step < 8; ++step) bit = timesX(bit);
-  table[0] = 0;
-  for (u32 high = 1; high < 256; high <<= 1, bit = timesX(bit)) {
-    for (u32 low = 0; low < high; ++low) table[high + low] = T(bit ^ table[low]);
+  for (T& entry : bits) {
+    entry = bit;
+    bit = timesX(bit);
   }
+}
+
+// A 256-entry table that is linear in its index, from its entries at the
+// single bits: every other entry is the XOR of two earlier ones.
+template <typename T>
+void FillLinearTable(T* table, T const (&bits)[8]) {
+  table[0] = 0;
+  for (u32 k = 0, high = 1; k < 8; ++k, high <<= 1) {
+    for (u32 low = 0; low < high; ++low) table[high + low] = T(bits[k] ^ table[low]);
+  }
+}
+
+// The 256-entry byte table of a CRC of the width of T with `polynomial` in
+// normal form: entry i is i at the top of the register, shifted left eight
+// times, XORed with the polynomial whenever the top bit falls out.
+template <typename T>
+void FillByteTable(T* table, T polynomial) {
+  T bits[8];
+  FillByteTableBits(bits, polynomial);
+  FillLinearTable(table, bits);
 }
 
 // Prepares `engine` for a CRC of `width` bits (8, 16, 32 or 64) with
