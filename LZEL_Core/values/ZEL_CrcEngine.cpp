@@ -13,16 +13,16 @@
 //   ZEL_CPU_HAS(f)   whether the running processor has the feature "f".
 // GCC and clang (also for MinGW) compile the folding functions with target
 // attributes and run them only where the processor reports the features, so
-// the library needs no special flags. Other compilers take the eight-byte
-// path.
-#if defined(__x86_64__) && (defined(__GNUC__) || defined(__clang__))
+// the library needs no special flags. Other compilers (MSVC among them) take
+// the eight-byte path, and so does a build with ZEL_CRC_FOLDING defined as 0.
+#if !defined(ZEL_CRC_FOLDING) && defined(__x86_64__) && (defined(__GNUC__) || defined(__clang__))
 #define ZEL_CRC_FOLDING 1
 #include <immintrin.h>
 #define ZEL_FOLD_TARGET __attribute__((target("pclmul,sse4.1")))
 #define ZEL_WIDE_TARGET \
   __attribute__((target("vpclmulqdq,avx512f,avx512bw,avx512vl,pclmul,sse4.1")))
 #define ZEL_CPU_HAS(feature) (__builtin_cpu_init(), __builtin_cpu_supports(feature))
-#else
+#elif !defined(ZEL_CRC_FOLDING)
 #define ZEL_CRC_FOLDING 0
 #endif
 
@@ -30,8 +30,9 @@ namespace ZEL {
 namespace crc_engine {
 namespace {
 
-// The folding paths, as `SCrcEngine::folding` names them.
+// The folding paths, as `SCrcWide::folding` names them.
 constexpr u8 kFoldNone = 0;
+#if ZEL_CRC_FOLDING
 constexpr u8 kFoldLanes = 1;  // 128-bit carry-less multiplication
 constexpr u8 kFoldWide = 2;   // 512-bit carry-less multiplication
 
@@ -39,6 +40,7 @@ constexpr u8 kFoldWide = 2;   // 512-bit carry-less multiplication
 // its 16-byte finish only over a few rounds.
 constexpr u64 kFoldMinimum = 256;
 constexpr u64 kFoldWideMinimum = 512;
+#endif
 
 // The long-block tables are derived once this many bytes have gone through
 // the byte path: about the cost of deriving them.
