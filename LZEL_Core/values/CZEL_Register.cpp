@@ -26,10 +26,10 @@ CZEL_Register::CZEL_Register(CZEL_Register&& other) noexcept
       m_Mark1(other.m_Mark1) {}
 
 CZEL_Register& CZEL_Register::operator=(CZEL_Register&& other) noexcept {
-  CZEL_BitSet::operator=(std::move(other));
   m_Mutex = other.m_Mutex;
   m_Mark0 = other.m_Mark0;
   m_Mark1 = other.m_Mark1;
+  CZEL_BitSet::operator=(std::move(other));  // last: only the bits move
   return *this;
 }
 
