@@ -67,8 +67,10 @@
 // about 4 KiB of tables, and 20 KiB once it has derived the others.
 //
 // Copies are deep, and an object may be configured again at any time.
-// `Compute` changes nothing in the object, so one configured object may serve
-// several threads at once; configuring and assigning need the caller's lock.
+// `Compute` changes nothing that a caller can see (deriving the long-block
+// tables is safe across threads), so one configured object may serve several
+// threads at once; configuring, assigning and `Begin`, `Update` need the
+// caller's lock.
 // A null data pointer with a non-zero size is the caller's mistake.
 
 #ifndef LZEL_CORE_VALUES_CZEL_CRC_H_
@@ -498,7 +500,7 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
   ZEL::u8 m_ByteInversion[256];
   // The byte table of the configured width, 256 entries in normal form;
   // only one of them is set. Each is the head of an owned block that also
-  // holds the tables of the word-at-a-time paths.
+  // holds the engine of the faster paths.
   ZEL::u8* m_Table8;
   ZEL::u16* m_Table16;
   ZEL::u32* m_Table32;
