@@ -3,7 +3,8 @@
 // (bits 0-1), the two reflections (bits 2 and 3) and how often the data is
 // repeated (bits 4-7, 1 to 16 times, so that blocks reach the wide paths);
 // then come the polynomial, the seed and the final XOR (8 bytes each, low
-// byte first), one byte that places the split point, and the data.
+// byte first), one byte that places the split point, and the data. The
+// same split also goes through Begin, Update and Finish.
 
 #include <LZEL_Core/values/CZEL_Crc.h>
 
@@ -40,6 +41,9 @@ void Check(Params const& p, std::vector<u8>& data, std::size_t split) {
   T const first = part;
   crc.Compute(data.data() + split, data.size() - split, &part, 1);
   Require(part == Reference(p, first, data.data() + split, data.size() - split));
+  CZEL_Crc pieces(crc);
+  pieces.Begin().Update(data.data(), split).Update(data.data() + split, data.size() - split);
+  Require(pieces.Finish() == whole);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <bitset>
+#include <utility>
 
 using ZEL::u32;
 using ZEL::u64;
@@ -79,6 +80,20 @@ CZEL_BitSet::CZEL_BitSet(u32 numBits, u8 value) : CZEL_BitSet() {
 }
 
 CZEL_BitSet::CZEL_BitSet(CZEL_BitSet const& src) : CZEL_BitSet() { DataCopy(src); }
+
+CZEL_BitSet::CZEL_BitSet(CZEL_BitSet&& src) noexcept : CZEL_BitSet() { Swap(src); }
+
+CZEL_BitSet& CZEL_BitSet::operator=(CZEL_BitSet&& src) noexcept {
+  CZEL_BitSet taken(std::move(src));
+  Swap(taken);
+  return *this;
+}
+
+void CZEL_BitSet::Swap(CZEL_BitSet& other) noexcept {
+  std::swap(m_NumBits, other.m_NumBits);
+  std::swap(m_NumWords, other.m_NumWords);
+  std::swap(m_Words, other.m_Words);
+}
 
 CZEL_BitSet::~CZEL_BitSet() { Destroy(); }
 

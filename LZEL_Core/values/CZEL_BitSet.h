@@ -103,8 +103,19 @@ class ZEL_API CZEL_BitSet : public CZEL_Object {
   // Releases the words.
   ~CZEL_BitSet() override;
 
+  // Takes the words of `src` without copying them; `src` is left an invalid
+  // set of 0 bits and no words. Never throws.
+  CZEL_BitSet(CZEL_BitSet&& src) noexcept;
+
   // A deep copy of `src`; returns this object.
   CZEL_BitSet& operator=(CZEL_BitSet const& src);
+
+  // Takes the words of `src` and releases this set's own; `src` is left an
+  // invalid set. Moving a set onto itself keeps it. Returns this object.
+  CZEL_BitSet& operator=(CZEL_BitSet&& src) noexcept;
+
+  // Exchanges the length and words of the two sets. Never throws.
+  void Swap(CZEL_BitSet& other) noexcept;
 
   // Stores `value` in a one-word set. A set that has one word already keeps
   // its length, so the rest of the value goes into its tail: a 12-bit set
@@ -328,5 +339,18 @@ class ZEL_API CZEL_BitSet : public CZEL_Object {
   // `count` places up (`up` non-zero) or down.
   CZEL_BitSet Shifted(ZEL::u32 count, ZEL::u8 up) const;
 };
+
+// `CZEL_BitSet::Swap`, found by argument-dependent lookup.
+inline void swap(CZEL_BitSet& a, CZEL_BitSet& b) noexcept { a.Swap(b); }
+
+// A u64 on the left: 1 or 0 as the comparison with the sides exchanged, so
+// `value < set` is `set > value`. These keep the u64 forms unambiguous and of
+// one result type in every language version.
+inline ZEL::u8 operator==(ZEL::u64 const& value, CZEL_BitSet const& set) { return set == value; }
+inline ZEL::u8 operator!=(ZEL::u64 const& value, CZEL_BitSet const& set) { return set != value; }
+inline ZEL::u8 operator<(ZEL::u64 const& value, CZEL_BitSet const& set) { return set > value; }
+inline ZEL::u8 operator<=(ZEL::u64 const& value, CZEL_BitSet const& set) { return set >= value; }
+inline ZEL::u8 operator>(ZEL::u64 const& value, CZEL_BitSet const& set) { return set < value; }
+inline ZEL::u8 operator>=(ZEL::u64 const& value, CZEL_BitSet const& set) { return set <= value; }
 
 #endif  // LZEL_CORE_VALUES_CZEL_BITSET_H_

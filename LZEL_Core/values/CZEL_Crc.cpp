@@ -7,6 +7,7 @@
 #include <LZEL_Core/values/ZEL_CrcEngine.h>
 
 #include <cstring>
+#include <utility>
 
 using ZEL::u16;
 using ZEL::u32;
@@ -140,6 +141,37 @@ u32 WidthOf(C::t_CrcType type) {
   }
 }
 
+// Entry i is i with its eight bits in reverse order.
+struct SByteInversion {
+  u8 bytes[256];
+};
+
+constexpr SByteInversion MakeByteInversion() {
+  SByteInversion table{};
+  for (u32 i = 0; i < 256; ++i) {
+    u32 reversed = 0;
+    for (u32 j = 0; j < 8; ++j) reversed |= ((i >> j) & 1u) << (7 - j);
+    table.bytes[i] = u8(reversed);
+  }
+  return table;
+}
+
+constexpr SByteInversion kByteInversion = MakeByteInversion();
+
+// The low `width` bits of `value`.
+u64 LowBits(u64 value, u32 width) { return width >= 64 ? value : value & ((u64{1} << width) - 1); }
+
+// The MIL-STD-1760 words at `data` folded onto `check`: each step rotates the
+// check word by one place and XORs in the next word, so that the last word
+// ends up rotated by one place, the word before it by two, and so on.
+u16 FoldMilStdWords(u16 check, u8 const* data, u64 words) {
+  for (u64 i = 0; i < words; ++i) {
+    u16 const word = u16(data[2 * i] | data[2 * i + 1] << 8);  // low byte first
+    check = ZEL::ShiftRotatedLeft16(u16(check ^ word), 1);
+  }
+  return check;
+}
+
 // The owned block behind a table pointer: the byte table of the width, then
 // the fast paths' tables. The pointer is the address of the first member.
 template <typename T>
@@ -169,7 +201,7 @@ T* CloneTable(T const* table) {
 // The low `width` bits of `value` in reverse order.
 template <typename T>
 T ReflectWidth(T value) {
-  return T(ZEL::ReflectUint64(value) >> (64 - 8 * sizeof(T)));
+  return T(ZEL::crc_engine::Reflect64(value) >> (64 - 8 * sizeof(T)));
 }
 
 }  // namespace
@@ -201,6 +233,37 @@ CZEL_Crc& CZEL_Crc::operator=(CZEL_Crc const& src) {
   return *this;
 }
 
+CZEL_Crc::CZEL_Crc(CZEL_Crc&& src) noexcept : CZEL_Object() {
+  ClearConfiguration();
+  Swap(src);
+}
+
+CZEL_Crc& CZEL_Crc::operator=(CZEL_Crc&& src) noexcept {
+  CZEL_Crc taken(std::move(src));
+  Swap(taken);
+  return *this;
+}
+
+void CZEL_Crc::Swap(CZEL_Crc& other) noexcept {
+  std::swap(m_CrcType, other.m_CrcType);
+  std::swap(m_StdCrc, other.m_StdCrc);
+  std::swap(m_IsPolynomial, other.m_IsPolynomial);
+  std::swap(m_Size, other.m_Size);
+  std::swap(m_Polynomial, other.m_Polynomial);
+  std::swap(m_ReflectInput, other.m_ReflectInput);
+  std::swap(m_ReflectOutput, other.m_ReflectOutput);
+  std::swap(m_Seed, other.m_Seed);
+  std::swap(m_FinalXor, other.m_FinalXor);
+  std::swap(m_ByteInversion, other.m_ByteInversion);
+  std::swap(m_Table8, other.m_Table8);
+  std::swap(m_Table16, other.m_Table16);
+  std::swap(m_Table32, other.m_Table32);
+  std::swap(m_Table64, other.m_Table64);
+  std::swap(m_Running, other.m_Running);
+  std::swap(m_Pending, other.m_Pending);
+  std::swap(m_HasPending, other.m_HasPending);
+}
+
 CZEL_Crc::~CZEL_Crc() { DestroyCrcTables(); }
 
 void CZEL_Crc::ClearConfiguration() {
@@ -217,6 +280,9 @@ void CZEL_Crc::ClearConfiguration() {
   m_Table16 = nullptr;
   m_Table32 = nullptr;
   m_Table64 = nullptr;
+  m_Running = 0;
+  m_Pending = 0;
+  m_HasPending = 0;
   BuildByteInversionTable();
 }
 
@@ -245,6 +311,8 @@ void CZEL_Crc::CreatePolynomial(t_CrcType type, u64 polynomial, u64 seed, u8 ref
   m_Size = WidthOf(type);
   BuildCrcTable();
   BuildByteInversionTable();
+  m_Running = LowBits(m_Seed, m_Size);
+  m_HasPending = 0;
 }
 
 // -----------------------------------------------------------------------------
@@ -285,11 +353,7 @@ void CZEL_Crc::BuildTable(T*& table) {
 }
 
 void CZEL_Crc::BuildByteInversionTable() {
-  for (u32 i = 0; i < 256; ++i) {
-    u8 reversed = 0;
-    for (u32 j = 0; j < 8; ++j) reversed = u8(reversed | (((i >> j) & 1u) << (7 - j)));
-    m_ByteInversion[i] = reversed;
-  }
+  std::memcpy(m_ByteInversion, kByteInversion.bytes, sizeof m_ByteInversion);
 }
 
 void CZEL_Crc::DestroyCrcTables() {
@@ -321,6 +385,9 @@ void CZEL_Crc::DataCopy(CZEL_Crc const& src) {
   m_Seed = src.m_Seed;
   m_FinalXor = src.m_FinalXor;
   std::memmove(m_ByteInversion, src.m_ByteInversion, sizeof m_ByteInversion);
+  m_Running = src.m_Running;
+  m_Pending = src.m_Pending;
+  m_HasPending = src.m_HasPending;
 }
 
 // -----------------------------------------------------------------------------
@@ -332,32 +399,54 @@ void CZEL_Crc::RequirePolynomial() const {
 }
 
 void CZEL_Crc::Compute(u8* data, u64 size, u8* crc, u8 continued) const {
-  RequirePolynomial();
-  ComputePolynomial(data, size, crc, continued);
+  ComputeBytes(data, size, crc, continued);
 }
 
 void CZEL_Crc::Compute(u8* data, u64 size, u16* crc, u8 continued) const {
-  if (m_IsPolynomial == 0 && m_StdCrc == Crc16_MilStd1760) {
-    Compute_MilStd1760(data, size / 2, crc, continued);
-    return;
-  }
-  RequirePolynomial();
-  ComputePolynomial(data, size, crc, continued);
+  ComputeBytes(data, size, crc, continued);
 }
 
 void CZEL_Crc::Compute(u8* data, u64 size, u32* crc, u8 continued) const {
-  RequirePolynomial();
-  ComputePolynomial(data, size, crc, continued);
+  ComputeBytes(data, size, crc, continued);
 }
 
 void CZEL_Crc::Compute(u8* data, u64 size, u64* crc, u8 continued) const {
-  RequirePolynomial();
-  ComputePolynomial(data, size, crc, continued);
+  ComputeBytes(data, size, crc, continued);
 }
 
 void CZEL_Crc::Compute(u16* data, u64 size, u16* crc, u8 continued) const {
-  Compute(reinterpret_cast<u8*>(data), size * 2, crc, continued);
+  ComputeBytes(reinterpret_cast<u8 const*>(data), size * 2, crc, continued);
 }
+
+void CZEL_Crc::Compute(u16 const* data, u64 size, u16* crc, u8 continued) const {
+  ComputeBytes(reinterpret_cast<u8 const*>(data), size * 2, crc, continued);
+}
+
+void CZEL_Crc::ComputeBytes(u8 const* data, u64 size, u8* crc, u8 continued) const {
+  RequirePolynomial();
+  RunPolynomial(m_Table8, data, size, crc, continued);
+}
+
+void CZEL_Crc::ComputeBytes(u8 const* data, u64 size, u16* crc, u8 continued) const {
+  if (IsMilStd1760()) {
+    *crc = u16((continued != 0 ? *crc : 0) ^ FoldMilStdWords(0, data, size / 2));
+    return;
+  }
+  RequirePolynomial();
+  RunPolynomial(m_Table16, data, size, crc, continued);
+}
+
+void CZEL_Crc::ComputeBytes(u8 const* data, u64 size, u32* crc, u8 continued) const {
+  RequirePolynomial();
+  RunPolynomial(m_Table32, data, size, crc, continued);
+}
+
+void CZEL_Crc::ComputeBytes(u8 const* data, u64 size, u64* crc, u8 continued) const {
+  RequirePolynomial();
+  RunPolynomial(m_Table64, data, size, crc, continued);
+}
+
+bool CZEL_Crc::IsMilStd1760() const { return m_IsPolynomial == 0 && m_StdCrc == Crc16_MilStd1760; }
 
 void CZEL_Crc::Compute(CZEL_Uint8Vector& data, u8* crc, u8 continued) const {
   RequirePolynomial();
@@ -433,12 +522,56 @@ void CZEL_Crc::ComputePolynomial(CZEL_Uint8Vector& data, u64* crc, u8 continued)
 }
 
 void CZEL_Crc::Compute_MilStd1760(u8* data, u64 words, u16* crc, u8 continued) const {
-  u16 check = continued != 0 ? *crc : 0;
-  for (u64 i = 0; i < words; ++i) {
-    u8* word = data + 2 * (words - 1 - i);
-    check ^= ZEL::ShiftRotatedLeft16(ZEL::Uint16FromBuf(word, ZEL::ZEL_LITTLE_ENDIAN), u16(i + 1));
+  *crc = u16((continued != 0 ? *crc : 0) ^ FoldMilStdWords(0, data, words));
+}
+
+// -----------------------------------------------------------------------------
+// Computing in pieces
+// -----------------------------------------------------------------------------
+
+ZEL::crc_engine::SCrcEngine const& CZEL_Crc::RunningEngine() const {
+  RequirePolynomial();
+  if (m_Table8 != nullptr) return BlockOf(m_Table8)->engine;
+  if (m_Table16 != nullptr) return BlockOf(m_Table16)->engine;
+  if (m_Table32 != nullptr) return BlockOf(m_Table32)->engine;
+  if (m_Table64 != nullptr) return BlockOf(m_Table64)->engine;
+  throw CZEL_Exception(ZEL_ERR_FAILED, this, 0);
+}
+
+CZEL_Crc& CZEL_Crc::Begin() {
+  if (!IsMilStd1760()) RunningEngine();
+  m_Running = IsMilStd1760() ? 0 : LowBits(m_Seed, m_Size);
+  m_HasPending = 0;
+  return *this;
+}
+
+CZEL_Crc& CZEL_Crc::Update(u8 const* data, u64 size) {
+  if (!IsMilStd1760()) {
+    m_Running = ZEL::crc_engine::RunCrcEngine(RunningEngine(), m_Running, data, size);
+    return *this;
   }
-  *crc = check;
+  u16 check = u16(m_Running);
+  if (m_HasPending != 0 && size != 0) {
+    u8 const word[2] = {m_Pending, *data};
+    check = FoldMilStdWords(check, word, 1);
+    m_HasPending = 0;
+    ++data;
+    --size;
+  }
+  m_Running = FoldMilStdWords(check, data, size / 2);
+  if (size % 2 != 0) {
+    m_Pending = data[size - 1];
+    m_HasPending = 1;
+  }
+  return *this;
+}
+
+u64 CZEL_Crc::Finish() const {
+  if (IsMilStd1760()) return m_Running;
+  RunningEngine();
+  u64 reg = m_Running;
+  if (m_ReflectOutput != 0) reg = ZEL::crc_engine::Reflect64(reg) >> (64 - m_Size);
+  return LowBits(reg ^ m_FinalXor, m_Size);
 }
 
 // -----------------------------------------------------------------------------

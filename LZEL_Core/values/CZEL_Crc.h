@@ -58,15 +58,19 @@
 // Speed
 //
 // The results are those of the byte-at-a-time table, for every parameter
-// set. Long blocks are taken eight bytes at a time, and on x86-64 processors
-// with carry-less multiplication by folding 128 bytes at a time (256 where
-// the processor has it on 512-bit registers). The path is chosen when the
-// object is configured and never changes a result. Each configured object
-// owns 17 to 19 KiB of tables.
+// set. Configuring builds that one table, so that setting up an object for a
+// short block costs little. Once an object has computed a few KiB, or one
+// long block, it derives the tables of the long-block paths, once: eight
+// bytes at a time, and on x86-64 processors with carry-less multiplication
+// folding 128 bytes at a time (256 where the processor has it on 512-bit
+// registers). The path never changes a result. A configured object owns
+// about 4 KiB of tables, and 20 KiB once it has derived the others.
 //
 // Copies are deep, and an object may be configured again at any time.
-// `Compute` changes nothing in the object, so one configured object may serve
-// several threads at once; configuring and assigning need the caller's lock.
+// `Compute` changes nothing that a caller can see (deriving the long-block
+// tables is safe across threads), so one configured object may serve several
+// threads at once; configuring, assigning and `Begin`, `Update` need the
+// caller's lock.
 // A null data pointer with a non-zero size is the caller's mistake.
 
 #ifndef LZEL_CORE_VALUES_CZEL_CRC_H_
@@ -75,7 +79,14 @@
 #include <LZEL_Core/frame/CZEL_Object.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
+#include <type_traits>
+
 class CZEL_Uint8Vector;
+namespace ZEL {
+namespace crc_engine {
+struct SCrcEngine;
+}  // namespace crc_engine
+}  // namespace ZEL
 
 class ZEL_API CZEL_Crc : public CZEL_Object {
  public:
@@ -314,6 +325,20 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
   // nothing.
   CZEL_Crc& operator=(CZEL_Crc const& src);
 
+  // Takes the configuration, tables and running computation of `src`
+  // without copying them; `src` is left unconfigured, as default-constructed.
+  // Never throws.
+  CZEL_Crc(CZEL_Crc&& src) noexcept;
+
+  // Takes over `src` as the move constructor does and releases this
+  // object's own tables. Moving an object onto itself keeps it. Returns this
+  // object.
+  CZEL_Crc& operator=(CZEL_Crc&& src) noexcept;
+
+  // Exchanges the configurations, tables and running computations of the two
+  // objects. Never throws.
+  void Swap(CZEL_Crc& other) noexcept;
+
   // Releases the tables.
   ~CZEL_Crc() override;
 
@@ -351,6 +376,19 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
   // computes the MIL-STD-1760 check, over `size` words.
   void Compute(ZEL::u16* data, ZEL::u64 size, ZEL::u16* crc, ZEL::u8 continued) const;
 
+  // The same on constant data, as `u8 const*` or `char const*` (a string's
+  // `data()`, a literal): `Compute("123456789", 9, &crc, 0)`. Throws as the
+  // forms above; the 16-bit result also computes the MIL-STD-1760 check.
+  template <typename Byte, typename Crc,
+            typename = std::enable_if_t<std::is_same<Byte, ZEL::u8>::value ||
+                                        std::is_same<Byte, char>::value>>
+  void Compute(Byte const* data, ZEL::u64 size, Crc* crc, ZEL::u8 continued) const {
+    ComputeBytes(reinterpret_cast<ZEL::u8 const*>(data), size, crc, continued);
+  }
+
+  // The 16-bit word form on constant data.
+  void Compute(ZEL::u16 const* data, ZEL::u64 size, ZEL::u16* crc, ZEL::u8 continued) const;
+
   // The same over all bytes of `data`. These know no MIL-STD-1760 check: for
   // it they throw ZEL_ERR_FAILED.
   void Compute(CZEL_Uint8Vector& data, ZEL::u8* crc, ZEL::u8 continued) const;
@@ -365,6 +403,36 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
   void ComputeCheckValue(ZEL::u16* crc) const;
   void ComputeCheckValue(ZEL::u32* crc) const;
   void ComputeCheckValue(ZEL::u64* crc) const;
+
+  // ---------------------------------------------------------------------------
+  // Computing in pieces
+  // ---------------------------------------------------------------------------
+  //
+  //   crc.Begin();
+  //   crc.Update(header, 12).Update(body, bodySize);
+  //   ZEL::u64 value = crc.Finish();  // as one Compute over header and body
+  //
+  // The running register is kept in the object, before the output reflection
+  // and the final XOR, so any split of the data gives the result of one
+  // `Compute` over all of it from the seed, at every width, and for the
+  // MIL-STD-1760 check too (an odd byte waits for the next piece). The
+  // pieces run through the same paths as `Compute`. Configuring an object
+  // starts a new computation, as `Begin` does; copies take the running
+  // computation along.
+
+  // Starts a computation from the seed (from 0 for MIL-STD-1760). Throws
+  // ZEL_ERR_FAILED, changing nothing, where `Compute` at the configured width
+  // would. Returns this object.
+  CZEL_Crc& Begin();
+
+  // Runs the `size` bytes at `data` through the computation. Throws as
+  // `Begin`. Returns this object.
+  CZEL_Crc& Update(ZEL::u8 const* data, ZEL::u64 size);
+
+  // The CRC of all bytes given since `Begin`, in the low `GetSize()` bits
+  // (16 for MIL-STD-1760, which ignores a last odd byte). The computation
+  // goes on: more `Update`s extend it. Throws as `Begin`.
+  ZEL::u64 Finish() const;
 
   // ---------------------------------------------------------------------------
   // Parameters, as given to the last configuration
@@ -432,13 +500,23 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
   ZEL::u8 m_ByteInversion[256];
   // The byte table of the configured width, 256 entries in normal form;
   // only one of them is set. Each is the head of an owned block that also
-  // holds the tables of the word-at-a-time paths.
+  // holds the engine of the faster paths.
   ZEL::u8* m_Table8;
   ZEL::u16* m_Table16;
   ZEL::u32* m_Table32;
   ZEL::u64* m_Table64;
 
  private:
+  // The checks and computation of the raw-data forms of `Compute`.
+  void ComputeBytes(ZEL::u8 const* data, ZEL::u64 size, ZEL::u8* crc, ZEL::u8 continued) const;
+  void ComputeBytes(ZEL::u8 const* data, ZEL::u64 size, ZEL::u16* crc, ZEL::u8 continued) const;
+  void ComputeBytes(ZEL::u8 const* data, ZEL::u64 size, ZEL::u32* crc, ZEL::u8 continued) const;
+  void ComputeBytes(ZEL::u8 const* data, ZEL::u64 size, ZEL::u64* crc, ZEL::u8 continued) const;
+  // 1 if this object computes the MIL-STD-1760 check rather than a polynomial.
+  bool IsMilStd1760() const;
+  // The engine of the configured polynomial; throws ZEL_ERR_FAILED if there
+  // is none. Not for a MIL-STD-1760 check.
+  ZEL::crc_engine::SCrcEngine const& RunningEngine() const;
   template <typename T>
   void BuildTable(T*& table);
   template <typename T>
@@ -450,6 +528,16 @@ class ZEL_API CZEL_Crc : public CZEL_Object {
   void RunCheckValue(T* crc) const;
   // The state of a default-constructed object, no table owned.
   void ClearConfiguration();
+
+  // The running computation: the register before the output reflection and
+  // final XOR (the check word for MIL-STD-1760), and a byte of the check
+  // word waiting for its partner.
+  ZEL::u64 m_Running;
+  ZEL::u8 m_Pending;
+  ZEL::u8 m_HasPending;
 };
+
+// `CZEL_Crc::Swap`, found by argument-dependent lookup.
+inline void swap(CZEL_Crc& a, CZEL_Crc& b) noexcept { a.Swap(b); }
 
 #endif  // LZEL_CORE_VALUES_CZEL_CRC_H_

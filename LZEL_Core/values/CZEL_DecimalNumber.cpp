@@ -54,6 +54,9 @@ CZEL_DecimalNumber::CZEL_DecimalNumber(u16 numDigits, i64 const& number)
   Set(number);
 }
 
+CZEL_DecimalNumber::CZEL_DecimalNumber(u16 numDigits, int number)
+    : CZEL_DecimalNumber(numDigits, i64{number}) {}
+
 CZEL_DecimalNumber::CZEL_DecimalNumber(u16 numDigits, i64 const& integral, u16 const& decimal)
     : m_NumDigits(numDigits), m_Value(0) {
   Set(static_cast<u64>(integral), decimal, 0);
@@ -88,6 +91,8 @@ CZEL_DecimalNumber& CZEL_DecimalNumber::Set(u64 const& integral, u16 const& deci
 CZEL_DecimalNumber& CZEL_DecimalNumber::Set(i64 const& number) {
   return Set(static_cast<u64>(number), 0, 0);
 }
+
+CZEL_DecimalNumber& CZEL_DecimalNumber::Set(int number) { return Set(i64{number}); }
 
 // The fraction is scaled by repeated multiplication and rounded half up by
 // adding 0.5; `RoundDecimal` then sees a fraction that rounded up to a whole
@@ -185,6 +190,10 @@ CZEL_DecimalNumber CZEL_DecimalNumber::operator*(i64 const& factor) const {
 }
 
 CZEL_DecimalNumber operator*(i64 const& factor, CZEL_DecimalNumber& number) {
+  return number * factor;
+}
+
+CZEL_DecimalNumber operator*(i64 const& factor, CZEL_DecimalNumber const& number) {
   return number * factor;
 }
 

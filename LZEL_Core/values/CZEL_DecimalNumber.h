@@ -82,6 +82,10 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
   // `Set(number)` at `numDigits` places, for an integer.
   CZEL_DecimalNumber(ZEL::u16 numDigits, ZEL::i64 const& number);
 
+  // The same for an `int`, so that `CZEL_DecimalNumber(2, 0)` and
+  // `CZEL_DecimalNumber(2, 5)` hold the integers 0 and 5.
+  CZEL_DecimalNumber(ZEL::u16 numDigits, int number);
+
   // `Set(integral, decimal, 0)` at `numDigits` places, the integer taken as
   // unsigned. A negative `integral` wraps to the right multiple and the
   // fraction is then added, not subtracted: (2, -5, 25) holds -4.75. Give
@@ -114,6 +118,9 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
   // `number` with a zero fraction; a negative `number` wraps to the right
   // multiple.
   CZEL_DecimalNumber& Set(ZEL::i64 const& number);
+
+  // The same for an `int`: `Set(5)` holds the integer 5.
+  CZEL_DecimalNumber& Set(int number);
 
   // `number` rounded half up to the places. The fraction's digits are
   // rounded once more by size, so that a fraction which rounds up to a whole
@@ -246,5 +253,8 @@ class ZEL_API CZEL_DecimalNumber : public CZEL_Object {
 
 // `number` times `factor`, as `number * factor`.
 ZEL_API CZEL_DecimalNumber operator*(ZEL::i64 const& factor, CZEL_DecimalNumber& number);
+
+// The same for a constant `number`.
+ZEL_API CZEL_DecimalNumber operator*(ZEL::i64 const& factor, CZEL_DecimalNumber const& number);
 
 #endif  // LZEL_CORE_VALUES_CZEL_DECIMALNUMBER_H_

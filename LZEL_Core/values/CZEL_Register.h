@@ -42,6 +42,19 @@ class ZEL_API CZEL_Register : public CZEL_BitSet {
   // before is dropped without being closed. Returns this object.
   CZEL_Register& operator=(CZEL_Register const& other);
 
+  // Takes the bits of `other` without copying them and shares its lock, as a
+  // copy does; `other` keeps its lock and marks but is left with no bits
+  // (an invalid set) until it is assigned again. Never throws.
+  CZEL_Register(CZEL_Register&& other) noexcept;
+
+  // Takes the bits and marks of `other` and shares its lock, as copying
+  // does; `other` is left with no bits. Returns this object. Never throws.
+  CZEL_Register& operator=(CZEL_Register&& other) noexcept;
+
+  // Exchanges the bits, the marks and the locks of the two registers. Never
+  // throws.
+  void Swap(CZEL_Register& other) noexcept;
+
   // The bit set's assignments stay available.
   using CZEL_BitSet::operator=;
 
@@ -73,5 +86,8 @@ class ZEL_API CZEL_Register : public CZEL_BitSet {
   // The same.
   ZEL::u8 m_Mark1;
 };
+
+// `CZEL_Register::Swap`, found by argument-dependent lookup.
+inline void swap(CZEL_Register& a, CZEL_Register& b) noexcept { a.Swap(b); }
 
 #endif  // LZEL_CORE_VALUES_CZEL_REGISTER_H_

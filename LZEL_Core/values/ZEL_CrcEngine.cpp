@@ -3,17 +3,26 @@
 #include <LZEL_Core/frame/ZEL_Primitives.h>
 
 #include <cstring>
+#include <memory>
 
-#if defined(__x86_64__) && (defined(__GNUC__) || defined(__clang__))
+// The folding paths are standard C++ over the x86-64 intrinsics; what is
+// particular to a compiler stands in one macro each:
+//   ZEL_CRC_FOLDING  1 where the folding paths are compiled in;
+//   ZEL_FOLD_TARGET  compiles a function for 128-bit carry-less products;
+//   ZEL_WIDE_TARGET  the same on 512-bit registers;
+//   ZEL_CPU_HAS(f)   whether the running processor has the feature "f".
+// GCC and clang (also for MinGW) compile the folding functions with target
+// attributes and run them only where the processor reports the features, so
+// the library needs no special flags. Other compilers (MSVC among them) take
+// the eight-byte path, and so does a build with ZEL_CRC_FOLDING defined as 0.
+#if !defined(ZEL_CRC_FOLDING) && defined(__x86_64__) && (defined(__GNUC__) || defined(__clang__))
 #define ZEL_CRC_FOLDING 1
 #include <immintrin.h>
-// The folding functions are compiled for carry-less multiplication (on 128
-// or on 512 bits) and run only where the processor reports it, so the
-// library needs no special flags.
 #define ZEL_FOLD_TARGET __attribute__((target("pclmul,sse4.1")))
 #define ZEL_WIDE_TARGET \
   __attribute__((target("vpclmulqdq,avx512f,avx512bw,avx512vl,pclmul,sse4.1")))
-#else
+#define ZEL_CPU_HAS(feature) (__builtin_cpu_init(), __builtin_cpu_supports(feature))
+#elif !defined(ZEL_CRC_FOLDING)
 #define ZEL_CRC_FOLDING 0
 #endif
 
@@ -21,8 +30,9 @@ namespace ZEL {
 namespace crc_engine {
 namespace {
 
-// The folding paths, as `SCrcEngine::folding` names them.
+// The folding paths, as `SCrcWide::folding` names them.
 constexpr u8 kFoldNone = 0;
+#if ZEL_CRC_FOLDING
 constexpr u8 kFoldLanes = 1;  // 128-bit carry-less multiplication
 constexpr u8 kFoldWide = 2;   // 512-bit carry-less multiplication
 
@@ -30,6 +40,11 @@ constexpr u8 kFoldWide = 2;   // 512-bit carry-less multiplication
 // its 16-byte finish only over a few rounds.
 constexpr u64 kFoldMinimum = 256;
 constexpr u64 kFoldWideMinimum = 512;
+#endif
+
+// The long-block tables are derived once this many bytes have gone through
+// the byte path: about the cost of deriving them.
+constexpr u64 kWideAfter = 4096;
 
 constexpr bool kBigEndianHost =
 #if defined(__BYTE_ORDER__) && defined(__ORDER_BIG_ENDIAN__)
@@ -52,36 +67,40 @@ u64 Load64(u8 const* p, bool firstHighest) {
   return firstHighest != kBigEndianHost ? ByteSwap64(v) : v;
 }
 
-// x^n modulo G = x^64 + q, as a polynomial of degree below 64 with bit i the
-// coefficient of x^i.
-u64 XPowMod(u32 n, u64 q) {
-  u64 r = 1;
-  for (u32 i = 0; i < n; ++i) r = (r << 1) ^ ((r >> 63) != 0 ? q : 0);
-  return r;
-}
-
-// The constants that move a 128-bit lane forward by `distance` bits. The
-// normal form multiplies the high half by x^(distance + 64) and the low half
-// by x^distance. In the reflected form a lane's low half holds the high
-// coefficients, bit-reversed, and a carry-less product of two reversed
-// operands comes out one place too far up, hence the exponents less one.
-void FoldConstants(u64 (&k)[2], u32 distance, u64 q, bool reflected) {
-  if (reflected) {
-    k[0] = ReflectUint64(XPowMod(distance + 63, q));
-    k[1] = ReflectUint64(XPowMod(distance - 1, q));
-  } else {
-    k[0] = XPowMod(distance, q);
-    k[1] = XPowMod(distance + 64, q);
+// The folding constants, from one walk through the powers x^n modulo
+// G = x^64 + q (bit i the coefficient of x^i). A lane moves forward by
+// `distance` bits: the normal form multiplies its high half by
+// x^(distance + 64) and its low half by x^distance. In the reflected form a
+// lane's low half holds the high coefficients, bit-reversed, and a carry-less
+// product of two reversed operands comes out one place too far up, hence the
+// exponents less one.
+void FillFoldConstants(SCrcWide& w, u64 q, bool reflected) {
+  u32 const distances[] = {128, 512, 1024, 2048};
+  u64(*const constants[])[2] = {&w.fold128, &w.fold512, &w.fold1024, &w.fold2048};
+  u64 power = 1;
+  u32 n = 0;
+  auto const upTo = [&](u32 exponent) {
+    for (; n < exponent; ++n) power = (power << 1) ^ ((power >> 63) != 0 ? q : 0);
+    return power;
+  };
+  for (u32 i = 0; i < 4; ++i) {
+    u64(&k)[2] = *constants[i];
+    if (reflected) {
+      k[1] = Reflect64(upTo(distances[i] - 1));
+      k[0] = Reflect64(upTo(distances[i] + 63));
+    } else {
+      k[0] = upTo(distances[i]);
+      k[1] = upTo(distances[i] + 64);
+    }
   }
 }
 
 // The widest folding path that this processor runs.
 u8 FoldingOfCpu() {
 #if ZEL_CRC_FOLDING
-  __builtin_cpu_init();
-  if (!__builtin_cpu_supports("pclmul") || !__builtin_cpu_supports("sse4.1")) return kFoldNone;
-  bool const wide = __builtin_cpu_supports("vpclmulqdq") && __builtin_cpu_supports("avx512f") &&
-                    __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl");
+  if (!ZEL_CPU_HAS("pclmul") || !ZEL_CPU_HAS("sse4.1")) return kFoldNone;
+  bool const wide = ZEL_CPU_HAS("vpclmulqdq") && ZEL_CPU_HAS("avx512f") &&
+                    ZEL_CPU_HAS("avx512bw") && ZEL_CPU_HAS("avx512vl");
   return wide ? kFoldWide : kFoldLanes;
 #else
   return kFoldNone;
@@ -91,7 +110,7 @@ u8 FoldingOfCpu() {
 // Eight bytes at a time: the register XOR the next eight bytes is replaced by
 // the sum of each byte's contribution across the bytes that follow it.
 template <bool kReflected>
-u64 Slice(SCrcEngine const& e, u64 r, u8 const* p, u64 n) {
+u64 Slice(SCrcWide const& e, u64 r, u8 const* p, u64 n) {
   for (; n >= 8; p += 8, n -= 8) {
     u64 const v = r ^ Load64(p, !kReflected);
     u64 next = 0;
@@ -146,7 +165,7 @@ ZEL_FOLD_TARGET __m128i FoldLane(__m128i lane, __m128i k, __m128i next) {
 // to the block so far with the register in it, then runs the lane's 16 bytes
 // through the table from a register of 0. Advances `p` and `n`.
 template <bool kReflected>
-ZEL_FOLD_TARGET u64 FinishLane(SCrcEngine const& e, __m128i lane, u8 const*& p, u64& n) {
+ZEL_FOLD_TARGET u64 FinishLane(SCrcWide const& e, __m128i lane, u8 const*& p, u64& n) {
   __m128i const k128 = LoadConstants(e.fold128);
   for (; n >= 16; p += 16, n -= 16) lane = FoldLane(lane, k128, LoadLane<kReflected>(p));
   alignas(16) u8 bytes[16];
@@ -158,7 +177,7 @@ ZEL_FOLD_TARGET u64 FinishLane(SCrcEngine const& e, __m128i lane, u8 const*& p, 
 // Eight lanes of 16 bytes side by side, 128 bytes a round; `n` is at least
 // 128.
 template <bool kReflected>
-ZEL_FOLD_TARGET u64 Fold(SCrcEngine const& e, u64 r, u8 const*& p, u64& n) {
+ZEL_FOLD_TARGET u64 Fold(SCrcWide const& e, u64 r, u8 const*& p, u64& n) {
   __m128i const k1024 = LoadConstants(e.fold1024);
   __m128i const k128 = LoadConstants(e.fold128);
   __m128i x[8];
@@ -194,7 +213,7 @@ ZEL_WIDE_TARGET __m512i FoldWide(__m512i x, __m512i k, __m512i next) {
 }
 
 template <bool kReflected>
-ZEL_WIDE_TARGET u64 FoldWide(SCrcEngine const& e, u64 r, u8 const*& p, u64& n) {
+ZEL_WIDE_TARGET u64 FoldWide(SCrcWide const& e, u64 r, u8 const*& p, u64& n) {
   __m512i const k2048 = Broadcast(LoadConstants(e.fold2048));
   __m512i const k512 = Broadcast(LoadConstants(e.fold512));
   __m512i x[4];
@@ -217,7 +236,7 @@ ZEL_WIDE_TARGET u64 FoldWide(SCrcEngine const& e, u64 r, u8 const*& p, u64& n) {
 #endif  // ZEL_CRC_FOLDING
 
 template <bool kReflected>
-u64 Run(SCrcEngine const& e, u64 r, u8 const* p, u64 n) {
+u64 Run(SCrcWide const& e, u64 r, u8 const* p, u64 n) {
 #if ZEL_CRC_FOLDING
   if (e.folding == kFoldWide && n >= kFoldWideMinimum) {
     r = FoldWide<kReflected>(e, r, p, n);
@@ -228,38 +247,88 @@ u64 Run(SCrcEngine const& e, u64 r, u8 const* p, u64 n) {
   return Slice<kReflected>(e, r, p, n);
 }
 
+// A byte at a time through the one table of a configuration.
+template <bool kReflected>
+u64 RunBytes(u64 const* table, u64 r, u8 const* p, u64 n) {
+  for (; n != 0; ++p, --n) {
+    r = kReflected ? (r >> 8) ^ table[(r ^ *p) & 0xFF] : (r << 8) ^ table[(r >> 56) ^ *p];
+  }
+  return r;
+}
+
+// The long-block tables of `e`, derived from its byte table.
+std::unique_ptr<SCrcWide> DeriveWide(SCrcEngine const& e) {
+  std::unique_ptr<SCrcWide> w(new SCrcWide);
+  auto& t = w->slice;
+  std::memcpy(t[0], e.byteTable, sizeof t[0]);
+  bool const reflected = e.reflected != 0;
+  for (u32 k = 1; k < 8; ++k) {
+    for (u32 b = 0; b < 256; ++b) {
+      u64 const prev = t[k - 1][b];
+      t[k][b] = reflected ? (prev >> 8) ^ t[0][prev & 0xFF] : (prev << 8) ^ t[0][prev >> 56];
+    }
+  }
+  FillFoldConstants(*w, e.polynomial, reflected);
+  w->folding = FoldingOfCpu();
+  return w;
+}
+
+// The long-block tables of `e` if it has them or should have them from now
+// on, with `size` more bytes to run; otherwise null.
+SCrcWide const* WideFor(SCrcEngine const& e, u64 size) {
+  SCrcWide* wide = e.wide.load(std::memory_order_acquire);
+  if (wide != nullptr) return wide;
+  if (size < 8 || e.bytesSeen.fetch_add(size, std::memory_order_relaxed) + size < kWideAfter)
+    return nullptr;
+  std::unique_ptr<SCrcWide> derived = DeriveWide(e);
+  if (e.wide.compare_exchange_strong(wide, derived.get(), std::memory_order_acq_rel))
+    return derived.release();
+  return wide;  // another thread published its own first
+}
+
 }  // namespace
+
+SCrcEngine::SCrcEngine(SCrcEngine const& src)
+    : polynomial(src.polynomial), shift(src.shift), reflected(src.reflected) {
+  std::memcpy(byteTable, src.byteTable, sizeof byteTable);
+  SCrcWide const* wide = src.wide.load(std::memory_order_acquire);
+  if (wide != nullptr) this->wide.store(new SCrcWide(*wide), std::memory_order_relaxed);
+}
+
+SCrcEngine::~SCrcEngine() { delete wide.load(std::memory_order_relaxed); }
 
 void BuildCrcEngine(SCrcEngine& e, u32 width, u64 polynomial, bool reflectInput) {
   e.shift = 64 - width;
   e.reflected = reflectInput ? 1 : 0;
-  e.folding = FoldingOfCpu();
+  delete e.wide.exchange(nullptr, std::memory_order_relaxed);
+  e.bytesSeen.store(0, std::memory_order_relaxed);
   u64 const q = polynomial << e.shift;  // bits above the width fall out
-  auto& t = e.slice;
-  FillByteTable<u64>(t[0], q);
+  e.polynomial = q;
+  u64 bits[8];
+  FillByteTableBits(bits, q);
   if (reflectInput) {
     // Byte b taken least-significant-bit first is the reversed byte taken
-    // most-significant-bit first, its contribution reversed as a whole.
-    std::memcpy(t[1], t[0], sizeof t[0]);
-    for (u32 b = 0; b < 256; ++b) t[0][b] = ReflectUint64(t[1][ReflectUint8(u8(b))]);
+    // most-significant-bit first, its contribution reversed as a whole; that
+    // too is linear in b, bit k standing for bit 7 - k.
+    u64 const normal[8] = {bits[0], bits[1], bits[2], bits[3], bits[4], bits[5], bits[6], bits[7]};
+    for (u32 k = 0; k < 8; ++k) bits[k] = Reflect64(normal[7 - k]);
   }
-  for (u32 k = 1; k < 8; ++k) {
-    for (u32 b = 0; b < 256; ++b) {
-      u64 const prev = t[k - 1][b];
-      t[k][b] = reflectInput ? (prev >> 8) ^ t[0][prev & 0xFF] : (prev << 8) ^ t[0][prev >> 56];
-    }
-  }
-  FoldConstants(e.fold128, 128, q, reflectInput);
-  FoldConstants(e.fold512, 512, q, reflectInput);
-  FoldConstants(e.fold1024, 1024, q, reflectInput);
-  FoldConstants(e.fold2048, 2048, q, reflectInput);
+  FillLinearTable(e.byteTable, bits);
 }
 
 u64 RunCrcEngine(SCrcEngine const& e, u64 reg, u8 const* data, u64 size) {
   u32 const s = e.shift;
-  if (e.reflected != 0)
-    return ReflectUint64(Run<true>(e, ReflectUint64(reg << s), data, size)) >> s;
-  return Run<false>(e, reg << s, data, size) >> s;
+  SCrcWide const* wide = WideFor(e, size);
+  if (e.reflected != 0) {
+    u64 const r = Reflect64(reg << s);
+    return Reflect64(wide != nullptr ? Run<true>(*wide, r, data, size)
+                                     : RunBytes<true>(e.byteTable, r, data, size)) >>
+           s;
+  }
+  u64 const r = reg << s;
+  return (wide != nullptr ? Run<false>(*wide, r, data, size)
+                          : RunBytes<false>(e.byteTable, r, data, size)) >>
+         s;
 }
 
 }  // namespace crc_engine

@@ -118,8 +118,8 @@ TEST(CZEL_BitSetLogic, OperatorsTakeTheSmallerSizeAndShiftsStayInTheLength) {
 }
 
 // The six relations of `a` to `b` as a mask: ==, !=, <, <=, >, >= from bit 0.
-template <typename T>
-int Relations(CZEL_BitSet const& a, T const& b) {
+template <typename A, typename B>
+int Relations(A const& a, B const& b) {
   return (a == b) | (a != b) << 1 | (a < b) << 2 | (a <= b) << 3 | (a > b) << 4 | (a >= b) << 5;
 }
 int RelationsOfSign(int sign) { return sign < 0 ? 0b001110 : sign == 0 ? 0b101001 : 0b110010; }
@@ -143,6 +143,23 @@ TEST(CZEL_BitSetCompare, ComparesWordsAsNumbersWhateverTheLengths) {
   EXPECT_EQ(Relations(Make(3, 5), u64{5}), RelationsOfSign(0));
   EXPECT_EQ(Relations(Make(200, 5), u64{6}), RelationsOfSign(-1));
   EXPECT_EQ(Relations(Make(70, 0, 1), kAll), RelationsOfSign(1));
+  EXPECT_EQ(Relations(u64{6}, Make(200, 5)), RelationsOfSign(1));  // a u64 on the left
+  EXPECT_EQ(Relations(kAll, Make(70, 0, 1)), RelationsOfSign(-1));
+}
+
+// A move takes the words and leaves an invalid set; swap exchanges them.
+TEST(CZEL_BitSetMoves, MovesLeaveAnEmptySetAndSwapExchanges) {
+  CZEL_BitSet a = Make(70, 5, 1);
+  CZEL_BitSet b(std::move(a));
+  EXPECT_TRUE(a.IsValid() == 0 && a.GetNumBits() == 0 && b == Make(70, 5, 1));
+  a = Make(3, 2);
+  swap(a, b);
+  EXPECT_TRUE(a.GetNumBits() == 70 && b.GetNumBits() == 3 && b == u64{2});
+  CZEL_BitSet& alias = a;
+  a = std::move(alias);
+  EXPECT_TRUE(a == Make(70, 5, 1));
+  b = std::move(a);
+  EXPECT_TRUE(a.IsValid() == 0 && b.GetNumBits() == 70);
 }
 
 // Bases 2 and 16 cover the length; the others go through word 0.
@@ -195,6 +212,20 @@ TEST(CZEL_Register, FieldsCutAtBit63AndCopiesShareTheLock) {
   std::future<void> other = std::async(std::launch::async, [&assigned] {
     assigned.Lock();
     assigned.Unlock();
+  });
+  EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+  r.Unlock();
+  EXPECT_EQ(other.wait_for(std::chrono::seconds(10)), std::future_status::ready);
+  // A move shares the lock as a copy does; swap exchanges bits, marks, locks.
+  MarkedRegister fresh;
+  CZEL_Register moved(std::move(assigned));
+  EXPECT_TRUE(assigned.GetNumBits() == 0 && moved.GetField(0, 64) == 0xF0000000000000F0u);
+  swap(static_cast<CZEL_Register&>(fresh), moved);
+  EXPECT_EQ(fresh.GetField(0, 64) + fresh.Marks() + moved.GetField(0, 64), 0xF0000000000000F0u + 3);
+  r.Lock();
+  other = std::async(std::launch::async, [&fresh] {
+    fresh.Lock();
+    fresh.Unlock();
   });
   EXPECT_EQ(other.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
   r.Unlock();

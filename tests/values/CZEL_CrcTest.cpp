@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <vector>
@@ -103,8 +104,9 @@ TEST(CrcCatalogue, EveryMemberGivesItsCheckValue) {
 }
 
 // Random parameters, lengths, alignments and split points against the
-// bit-by-bit reference: short blocks, the eight-byte path and the folding
-// path (where the processor has it) all give the byte-table result.
+// bit-by-bit reference: short blocks before and after an object has derived
+// its long-block tables, the eight-byte path and the folding path (where the
+// processor has it) all give the byte-table result.
 TEST(CrcPaths, RandomBlocksMatchTheBitByBitDefinition) {
   std::mt19937_64 random(20240607);
   std::vector<u8> buffer(70000 + 16);
@@ -126,12 +128,43 @@ TEST(CrcPaths, RandomBlocksMatchTheBitByBitDefinition) {
     // An object with a table of any width, then assigned the one under test.
     reused.CreatePolynomial(static_cast<C::t_CrcType>(1 + random() % 4), random(), 0, 1, 0, 0);
     reused = fresh;
+    if (round % 2 != 0) Raw(reused, p.width, buffer.data(), 5000, 0, 0);  // long-block tables
     ASSERT_EQ(Raw(fresh, p.width, data, size, 0, 0), Reference(p, p.seed, data, size));
     u64 const first = Raw(reused, p.width, data, split, 0, 0);
     ASSERT_EQ(first, Reference(p, p.seed, data, split));
     ASSERT_EQ(Raw(reused, p.width, data + split, size - split, first, 1),
               Reference(p, first, data + split, size - split));
   }
+}
+
+// Begin, Update over random pieces and Finish give one Compute over the
+// whole, for every member (the check word too), in short and long pieces.
+TEST(CrcPieces, AnySplitGivesOneComputeOverTheWhole) {
+  std::mt19937_64 random(7);
+  std::vector<u8> data(20000);
+  for (u8& b : data) b = u8(random());
+  u8 const* const bytes = data.data();
+  for (Family const& family : kCatalogue) {
+    for (u32 i = 0; i < family.checks.size(); ++i) {
+      auto const type = static_cast<C::t_StdCrc>(family.first + i);
+      SCOPED_TRACE(type);
+      C crc(type);
+      u64 const size = random() % data.size();
+      u64 const whole = AtWidth(type == C::Crc16_MilStd1760 ? 16 : crc.GetSize(), [&](auto value) {
+        return crc.Compute(bytes, size, &value, 0), u64{value};
+      });
+      crc.Update(bytes, 5).Begin();
+      for (u64 at = 0, piece = 0; at < size; at += piece) {
+        piece = std::min<u64>(size - at, random() % (random() % 2 != 0 ? 9 : 5000));
+        crc.Update(bytes + at, piece);
+      }
+      EXPECT_EQ(C(std::move(crc)).Finish(), whole);
+    }
+  }
+  u32 r = 0;
+  C const crc32(C::Crc32);
+  crc32.Compute("123456789", 9, &r, 0);
+  EXPECT_EQ(r, 0xCBF43926u);
 }
 
 // Word i from the end, rotated left by i + 1, XORed in; an odd last byte is
@@ -173,7 +206,10 @@ TEST(CrcFailures, EachThrowCarriesItsCodeAndLeavesTheResult) {
       EXPECT_ZEL_THROW(Raw(*c, width, data, 4, 0, 0), ZEL_ERR_FAILED, c);
     EXPECT_ZEL_THROW(c->Compute(vector, &r16, 0), ZEL_ERR_FAILED, c);
     EXPECT_ZEL_THROW(c->ComputeCheckValue(&r32), ZEL_ERR_FAILED, c);
+    EXPECT_ZEL_THROW(c->Finish(), ZEL_ERR_FAILED, c);
   }
+  EXPECT_ZEL_THROW(none.Begin(), ZEL_ERR_FAILED, &none);
+  EXPECT_ZEL_THROW(none.Update(data, 4), ZEL_ERR_FAILED, &none);
   EXPECT_ZEL_THROW(modbus.Compute(data, 4, &r32, 0), ZEL_ERR_FAILED, &modbus);
   EXPECT_ZEL_THROW(modbus.Compute(vector, &r8, 0), ZEL_ERR_FAILED, &modbus);
   EXPECT_ZEL_THROW(mil.Compute(vector, &r16, 0), ZEL_ERR_FAILED, &mil);
@@ -206,7 +242,9 @@ TEST(CrcCopies, CopiesAreIndependentAndReconfigurable) {
   EXPECT_EQ(Check(assigned, 32), 0xE3069283u);
   assigned.CreatePolynomial(C::CrcType_8, 0x107, 0, 0, 0, 0);
   EXPECT_EQ(assigned.GetPolynomial() + Check(assigned, 8), 0x107u + 0xF4);
-  copy = C();
+  C moved(std::move(copy));
+  swap(moved, assigned);
+  EXPECT_EQ(Check(assigned, 32) + Check(moved, 8), 0xE3069283u + 0xF4);
   u32 r = 7;
   EXPECT_ZEL_THROW(copy.Compute(nullptr, 0, &r, 0), ZEL_ERR_FAILED, &copy);
 }

@@ -66,6 +66,8 @@ TEST(CZEL_DecimalNumberTest, SettersPlacesAndArithmetic) {
       ROW(T(2, "1") - T(1, "2.5"), "-1.50"), ROW(T(2, "1.5") -= small, "1.27"),
       ROW(T(1, "1.5") += small, "1.7"), ROW(cent * 3, "0.03"), ROW(3 * cent, "0.03"),
       ROW(top + D(0, i64{1}), "-9,223,372,036,854,775,808.0"), ROW(D(0, i64{1} << 62) * 4, "0.0"),
+      ROW(D(2, 0), "0.00"), ROW(D(1, -7), "-7.0"), ROW(D(3).Set(5), "5.000"),
+      ROW(3 * static_cast<D const&>(cent), "0.03"),
   };
   // clang-format on
   for (Row const& r : rows) EXPECT_EQ(Text(r.number.ToString('.', ',')), r.expected) << r.expr;
