@@ -2,7 +2,8 @@
 // inet_ntop on the same addresses, in the same run. The texts differ only
 // where the two read differently: CZEL_IpAddress reads IPv6 groups in
 // decimal, inet_pton in hexadecimal, so each IPv6 text is written so that
-// its reader sees the same eight groups.
+// its reader sees the same eight groups. The standard forms read and print
+// the same texts as the C library.
 
 #include <LZEL_Core/net/CZEL_IpAddress.h>
 #include <LZEL_Core/text/CZEL_String.h>
@@ -21,6 +22,9 @@ char const* const kV6Decimal[] = {"8193:3512:0:0:0:0:0:1", "65152:0:0:0:514:4582
                                   "1:2:3:4:5:6:7:8"};
 char const* const kV6Hex[] = {"2001:db8:0:0:0:0:0:1", "fe80:0:0:0:202:b2ff:fe59:7",
                               "1234:5678:9abc:def0:1234:5678:9abc:def0", "1:2:3:4:5:6:7:8"};
+// Standard texts, shortened where the canonical form shortens them.
+char const* const kV6Standard[] = {"2001:db8::1", "fe80::202:b2ff:fe59:7",
+                                   "1234:5678:9abc:def0:1234:5678:9abc:def0", "::ffff:c000:201"};
 
 template <std::size_t N>
 void ZelParse(benchmark::State& state, char const* const (&texts)[N]) {
@@ -30,6 +34,18 @@ void ZelParse(benchmark::State& state, char const* const (&texts)[N]) {
   std::size_t i = 0;
   for (auto _ : state) {
     address = strings[i++ % N];
+    benchmark::DoNotOptimize(address.GetDigit(0));
+  }
+}
+
+template <std::size_t N>
+void ZelParseStandard(benchmark::State& state, char const* const (&texts)[N]) {
+  CZEL_String strings[N];
+  for (std::size_t i = 0; i < N; ++i) strings[i] = texts[i];
+  CZEL_IpAddress address;
+  std::size_t i = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(address.ParseStandard(strings[i++ % N]));
     benchmark::DoNotOptimize(address.GetDigit(0));
   }
 }
@@ -56,6 +72,17 @@ void ZelPrint(benchmark::State& state, char const* const (&texts)[N]) {
 }
 
 template <std::size_t N>
+void ZelPrintStandard(benchmark::State& state, char const* const (&texts)[N]) {
+  CZEL_IpAddress addresses[N];
+  for (std::size_t i = 0; i < N; ++i) addresses[i].ParseStandard(CZEL_String(texts[i]));
+  std::size_t i = 0;
+  for (auto _ : state) {
+    CZEL_String const text = addresses[i++ % N].ToStandardString();
+    benchmark::DoNotOptimize(text.GetStringC());
+  }
+}
+
+template <std::size_t N>
 void NtopPrint(benchmark::State& state, int family, char const* const (&texts)[N]) {
   unsigned char bytes[N][sizeof(in6_addr)];
   for (std::size_t i = 0; i < N; ++i) inet_pton(family, texts[i], bytes[i]);
@@ -74,6 +101,16 @@ void BM_PrintV4_Zel(benchmark::State& state) { ZelPrint(state, kV4); }
 void BM_PrintV4_InetNtop(benchmark::State& state) { NtopPrint(state, AF_INET, kV4); }
 void BM_PrintV6_Zel(benchmark::State& state) { ZelPrint(state, kV6Decimal); }
 void BM_PrintV6_InetNtop(benchmark::State& state) { NtopPrint(state, AF_INET6, kV6Hex); }
+void BM_ParseStandardV4_Zel(benchmark::State& state) { ZelParseStandard(state, kV4); }
+void BM_ParseStandardV6_Zel(benchmark::State& state) { ZelParseStandard(state, kV6Standard); }
+void BM_ParseStandardV6_InetPton(benchmark::State& state) {
+  PtonParse(state, AF_INET6, kV6Standard);
+}
+void BM_PrintStandardV4_Zel(benchmark::State& state) { ZelPrintStandard(state, kV4); }
+void BM_PrintStandardV6_Zel(benchmark::State& state) { ZelPrintStandard(state, kV6Standard); }
+void BM_PrintStandardV6_InetNtop(benchmark::State& state) {
+  NtopPrint(state, AF_INET6, kV6Standard);
+}
 
 }  // namespace
 
@@ -85,3 +122,9 @@ BENCHMARK(BM_PrintV4_Zel);
 BENCHMARK(BM_PrintV4_InetNtop);
 BENCHMARK(BM_PrintV6_Zel);
 BENCHMARK(BM_PrintV6_InetNtop);
+BENCHMARK(BM_ParseStandardV4_Zel);
+BENCHMARK(BM_ParseStandardV6_Zel);
+BENCHMARK(BM_ParseStandardV6_InetPton);
+BENCHMARK(BM_PrintStandardV4_Zel);
+BENCHMARK(BM_PrintStandardV6_Zel);
+BENCHMARK(BM_PrintStandardV6_InetNtop);

@@ -16,7 +16,7 @@
 //
 // An address is valid (IPv4 or IPv6) or invalid, with no digits; an invalid
 // address prints as the empty string and equals every other invalid one.
-// There is no accessor for the kind: compare with a default address.
+// `IsValid` and `GetKind` tell them apart.
 //
 // The parser validates little, and callers rely on that:
 //   - Text without a ':' is IPv4, and valid if the '.' separators cut it
@@ -34,6 +34,20 @@
 //     reads 0). There is no shortened form ("::1" is invalid) and no dotted
 //     tail; "1.2.3.4:80" is IPv6 text of 2 tags, and so invalid.
 //   - A failed parse leaves the address invalid, whatever it held before.
+//
+// Beside that parser stands `ParseStandard`, which reads only the standard
+// text forms and refuses everything else, and `ToStandardString`, which
+// prints the canonical one; the two are each other's inverse:
+//
+//   CZEL_IpAddress c;
+//   c.ParseStandard(CZEL_String("2001:DB8:0:0:1:0:0:1"));   // 1
+//   c.ToStandardString();                   // "2001:db8::1:0:0:1"
+//   c.ToString();                           // "2001:0DB8:0000:...:0001"
+//   c.ParseStandard(CZEL_String("1.2.3.04"));                // 0, c stays
+//
+// Both forms hold a group as its value (0x2001 is the digit 8193), so that
+// `GetDigit`, `ToString` and the stream form see the same address whichever
+// parser made it.
 //
 // No operation throws, and none returns a code.
 
@@ -88,6 +102,36 @@ class ZEL_API CZEL_IpAddress : public CZEL_Object {
   // 2147483647 prints negative), a digit missing from a short list prints
   // as 0, and digits past the fourth or eighth are left out.
   CZEL_String ToString() const;
+
+  // 1 if the address is IPv4 or IPv6, 0 if it is invalid.
+  ZEL::u8 IsValid() const;
+
+  // The kind's number: `IP_V4` 0, `IP_V6` 1, `IP_INVALID` 65535.
+  ZEL::u32 GetKind() const;
+
+  // Reads the standard text forms and returns 1, or returns 0 and leaves
+  // this address as it was. IPv4 is dotted decimal: exactly four parts of
+  // 0 to 255, no part empty, no sign, no blank, and no leading zero ("0" is
+  // a part, "01" is refused). IPv6 is eight groups of 1 to 4 hexadecimal
+  // digits of either case joined by ':'; one "::" at most stands for one or
+  // more zero groups ("::", "::1", "fe80::", "1:2:3:4::5:6:7"), and the last
+  // two groups may be written as a dotted IPv4 tail ("::ffff:192.0.2.1").
+  // Zone indices ("fe80::1%eth0"), brackets, prefixes and ports are
+  // refused. Accepts and refuses exactly as the C library's `inet_pton` of
+  // the matching family, with the same value, for text without 0 bytes;
+  // a 0 byte anywhere refuses.
+  ZEL::u8 ParseStandard(CZEL_String const& text);
+
+  // The canonical text form: IPv4 dotted decimal ("192.0.2.1"); IPv6 in
+  // lower-case hexadecimal without leading zeros, the longest run of two or
+  // more zero groups written "::" (the first of equal runs, a lone zero
+  // group written "0"): "2001:db8::1", "2001:db8:0:1:1:1:1:1", "::". Every
+  // IPv6 address prints in hexadecimal groups, an IPv4-mapped one too
+  // ("::ffff:c000:201", where `inet_ntop` writes "::ffff:192.0.2.1").
+  // `ParseStandard` reads the result back to the same address. An invalid
+  // address gives "". A digit that only the stream form can deliver prints
+  // cut to the kind's width (8 or 16 bits), and a missing one as 0.
+  CZEL_String ToStandardString() const;
 
   // The low 8 bits of digit `index` (for IPv6 the low byte of the group:
   // 232 for a group of 1000), or 0 if `index` is not below the number of
