@@ -138,6 +138,21 @@ TEST_F(WinBitmapDataTest, HeaderChecks) {
   }
 }
 
+// A header that can't be read, from a file opened for writing alone, is
+// refused as too short, whatever its bytes hold.
+TEST_F(WinBitmapDataTest, UnreadableHeaderIsBadFormat) {
+  struct Reader : CZEL_WinBitmapData {
+    using CZEL_WinBitmapData::ReadInfoFromFile;
+  };
+  Spit("t.bmp", Bmp().Bytes());
+  F file;
+  ASSERT_EQ(file.Open(Z("t.bmp"), F::FILE_OPEN_WRITE), 0u);
+  CZEL_WinBitmapData::SInfoHeader info{};
+  info.biSize = 77;
+  EXPECT_EQ(Reader::ReadInfoFromFile(file, info, nullptr), ZEL_ERR_BAD_FORMAT);
+  EXPECT_EQ(info.biSize, 77u);
+}
+
 // Rows run bottom-up; pixel (0, 0) of the true-colour image is at byte 12.
 // Palette colours take the reserved byte from the entry. Kinds without a
 // reader, long headers and top-down files are refused.

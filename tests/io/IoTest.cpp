@@ -190,6 +190,20 @@ TEST(BufferTest, UnknownAddressKindThrows) {
   EXPECT_EQ(address.ToString().GetLength(), 0u);
 }
 
+// A stream that ends among an address's digits leaves zeros behind the
+// digits read, never bytes that no read wrote.
+TEST(BufferTest, AddressCutShortKeepsItsDigitsRead) {
+  CZEL_MemoryBuffer b;
+  b << ZEL::u16(0);
+  b << ZEL::u32(4);
+  b << ZEL::u32(1);
+  b << ZEL::u16(2);
+  b.ToStart();
+  CZEL_IpAddress address;
+  EXPECT_ZEL_THROW(b >> address, ZEL_ERR_OUT_OF_RANGE, &b);
+  EXPECT_EQ(Text(address.ToString()), "1.0.0.0");
+}
+
 class FileBufferTest : public TempDirTest {
  protected:
   void OpenFile(ZEL::u32 flags) { ASSERT_EQ(m_File.Open(Z("f"), flags), 0u); }
@@ -285,6 +299,30 @@ TEST_F(FileBufferTest, ValuesToFileAndBack) {
   EXPECT_ZEL_THROW(buffer >> d1, ZEL_ERR_OUT_OF_RANGE, &buffer);
   EXPECT_EQ(buffer.GetAbsPosition(), expected.size());
   EXPECT_TRUE(d1 == date);
+}
+
+// A file cut short under the buffer ends the stream where its bytes end: the
+// read that reaches beyond fails as one past the size, the bytes before it
+// delivered, and no byte of the block that the file did not fill comes out.
+TEST_F(FileBufferTest, FileCutShortEndsTheStream) {
+  // Blocks larger than the runtime's own buffer, so that the cut is seen.
+  std::string content(20000, ' ');
+  for (std::size_t i = 0; i < content.size(); ++i) content[i] = char('a' + i % 26);
+  Spit("f", content);
+  OpenFile(kR);
+  CZEL_FileBuffer b(8192);
+  ASSERT_EQ(b.AttachFile(&m_File, B::ACCESS_READ), 0u);
+  EXPECT_EQ(Take(b, 8190), content.substr(0, 8190));
+  Spit("f", content.substr(0, 8195));
+  std::string got(10, '.');
+  EXPECT_ZEL_THROW(b.RetrieveData(got.data(), 10), ZEL_ERR_OUT_OF_RANGE, &b);
+  EXPECT_EQ(got, content.substr(8190, 2) + "........");
+  EXPECT_EQ((std::vector<ZEL::u64>{b.GetSize(), b.GetAbsPosition(), b.IsEnd()}),
+            (std::vector<ZEL::u64>{8195, 8192, 0}));
+  EXPECT_EQ(Take(b, 3), content.substr(8192, 3));
+  EXPECT_ZEL_THROW(Take(b, 1), ZEL_ERR_OUT_OF_RANGE, &b);
+  b.ToStart();  // a rewind takes the file's length again
+  EXPECT_EQ(b.GetSize(), 8195u);
 }
 
 }  // namespace
