@@ -190,6 +190,28 @@ TEST(BufferTest, UnknownAddressKindThrows) {
   EXPECT_EQ(address.ToString().GetLength(), 0u);
 }
 
+// `long long` values travel as the 8-byte i64 and u64; moves and swaps hand
+// the blocks over, the source left empty.
+TEST(BufferTest, LongLongAndMoves) {
+  CZEL_MemoryBuffer b(3);
+  b << -2LL;
+  b << 3ULL;
+  EXPECT_EQ(Reread(b, 16), "\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF\3\0\0\0\0\0\0\0"s);
+  CZEL_MemoryBuffer moved(std::move(b)), other(5);
+  EXPECT_EQ(b.GetSize() + b.IsEnd() + b.GetAbsPosition(), 1u);  // NOLINT(bugprone-use-after-move)
+  swap(moved, other);
+  EXPECT_EQ(moved.GetSize(), 0u);
+  b = std::move(other);
+  b.ToStart();
+  long long ll = 0;
+  unsigned long long ull = 0;
+  b >> ll;
+  b >> ull;
+  EXPECT_TRUE(ll == -2 && ull == 3 && b.IsEnd() == 1);
+  EXPECT_ZEL_THROW(b >> ll, ZEL_ERR_OUT_OF_RANGE, &b);
+  EXPECT_EQ(ll, -2);
+}
+
 // A stream that ends among an address's digits leaves zeros behind the
 // digits read, never bytes that no read wrote.
 TEST(BufferTest, AddressCutShortKeepsItsDigitsRead) {
