@@ -4,7 +4,8 @@
 //   - 8-byte values alone through CZEL_FileBuffer in 64 KiB blocks, beside
 //     one fwrite or fread per value;
 //   - the same bytes handed to AppendData in 64 KiB pieces, beside one bulk
-//     fwrite of them all;
+//     fwrite of them all, and beside one fwrite and fflush per piece, which
+//     is what CZEL_File::Write with flush costs for each full block;
 //   - typed values into CZEL_MemoryBuffer beside appends to a
 //     std::vector<uint8_t>;
 //   - lines of a 100 MB text file through both CZEL_File::ReadTextLine forms
