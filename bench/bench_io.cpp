@@ -1,8 +1,11 @@
 // The stream classes beside what an application would write by hand:
 //   - 64 MiB of mixed typed values through CZEL_FileBuffer (blocks of 4 KiB
 //     and 64 KiB), written and read, beside one fwrite or fread per value;
+//   - 8-byte values alone through CZEL_FileBuffer in 64 KiB blocks, beside
+//     one fwrite or fread per value;
 //   - the same bytes handed to AppendData in 64 KiB pieces, beside one bulk
-//     fwrite of them all;
+//     fwrite of them all, and beside one fwrite and fflush per piece, which
+//     is what CZEL_File::Write with flush costs for each full block;
 //   - typed values into CZEL_MemoryBuffer beside appends to a
 //     std::vector<uint8_t>;
 //   - lines of a 100 MB text file through both CZEL_File::ReadTextLine forms
@@ -194,6 +197,79 @@ void BM_StdioPerValueRead(benchmark::State& state) {
 BENCHMARK(BM_StdioPerValueRead)->Unit(benchmark::kMillisecond);
 
 // ---------------------------------------------------------------------------
+// 8-byte values alone, blocks of 64 KiB
+// ---------------------------------------------------------------------------
+
+constexpr std::uint64_t kWords = kTypedBytes / 8;
+
+void Words(benchmark::State& state) {
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(kWords * 8));
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kWords));
+}
+
+void BM_FileBufferWriteI64(benchmark::State& state) {
+  for (auto _ : state) {
+    CZEL_File file;
+    file.Open(PathOf("words.bin").c_str(),
+              CZEL_File::FILE_OPEN_WRITE | CZEL_File::FILE_OPEN_TRUNCATE);
+    CZEL_FileBuffer out(kPiece);
+    out.AttachFile(&file, CZEL_Buffer::ACCESS_WRITE);
+    for (std::uint64_t i = 0; i < kWords; ++i) out << static_cast<ZEL::i64>(i);
+    out.Close();
+    file.Close();
+  }
+  Words(state);
+}
+BENCHMARK(BM_FileBufferWriteI64)->Unit(benchmark::kMillisecond);
+
+void BM_StdioPerValueWriteI64(benchmark::State& state) {
+  for (auto _ : state) {
+    StdioOut out{std::fopen(PathOf("words.bin").c_str(), "wb")};
+    for (std::uint64_t i = 0; i < kWords; ++i) out << static_cast<ZEL::i64>(i);
+    std::fclose(out.f);
+  }
+  Words(state);
+}
+BENCHMARK(BM_StdioPerValueWriteI64)->Unit(benchmark::kMillisecond);
+
+void BM_FileBufferReadI64(benchmark::State& state) {
+  std::string const& path = TypedFile();  // 64 MiB less a few bytes: read kWords - 1
+  std::uint64_t sum = 0;
+  for (auto _ : state) {
+    CZEL_File file;
+    file.Open(path.c_str(), CZEL_File::FILE_OPEN_READ);
+    CZEL_FileBuffer in(kPiece);
+    in.AttachFile(&file, CZEL_Buffer::ACCESS_READ);
+    ZEL::i64 value;
+    for (std::uint64_t i = 1; i < kWords; ++i) {
+      in >> value;
+      sum += static_cast<std::uint64_t>(value);
+    }
+    in.Close();
+  }
+  benchmark::DoNotOptimize(sum);
+  Words(state);
+}
+BENCHMARK(BM_FileBufferReadI64)->Unit(benchmark::kMillisecond);
+
+void BM_StdioPerValueReadI64(benchmark::State& state) {
+  std::string const& path = TypedFile();
+  std::uint64_t sum = 0;
+  for (auto _ : state) {
+    StdioIn in{std::fopen(path.c_str(), "rb")};
+    ZEL::i64 value;
+    for (std::uint64_t i = 1; i < kWords; ++i) {
+      in >> value;
+      sum += static_cast<std::uint64_t>(value);
+    }
+    std::fclose(in.f);
+  }
+  benchmark::DoNotOptimize(sum);
+  Words(state);
+}
+BENCHMARK(BM_StdioPerValueReadI64)->Unit(benchmark::kMillisecond);
+
+// ---------------------------------------------------------------------------
 // Bulk data
 // ---------------------------------------------------------------------------
 
@@ -232,6 +308,22 @@ void BM_StdioBulkWrite(benchmark::State& state) {
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(data.size()));
 }
 BENCHMARK(BM_StdioBulkWrite)->Unit(benchmark::kMillisecond);
+
+// The file side of AppendData alone: each 64 KiB piece through one fwrite
+// and one fflush, as CZEL_File::Write with flush does for every full block.
+void BM_StdioPieceFlushWrite(benchmark::State& state) {
+  auto const& data = BulkData();
+  for (auto _ : state) {
+    std::FILE* f = std::fopen(PathOf("bulk.bin").c_str(), "wb");
+    for (std::size_t at = 0; at < data.size(); at += kPiece) {
+      std::fwrite(&data[at], 1, kPiece, f);
+      std::fflush(f);
+    }
+    std::fclose(f);
+  }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(data.size()));
+}
+BENCHMARK(BM_StdioPieceFlushWrite)->Unit(benchmark::kMillisecond);
 
 // ---------------------------------------------------------------------------
 // Typed values in memory

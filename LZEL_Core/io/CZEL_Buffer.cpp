@@ -33,16 +33,27 @@ struct UnsignedOf<8> {
   using type = u64;
 };
 
+// A host that keeps numbers least significant byte first holds the stream's
+// bytes of a value as they are, and moves them with one copy.
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+constexpr bool kHostIsLittleEndian = true;
+#else
+constexpr bool kHostIsLittleEndian = false;
+#endif
+
 // The stream's bytes of `value`: its bit pattern least significant byte
-// first, as the `ToBuf` functions give them with ZEL_LITTLE_ENDIAN, packed
-// here so that the compiler makes one store of it.
+// first, as the `ToBuf` functions give them with ZEL_LITTLE_ENDIAN.
 template <typename V>
 void Put(CZEL_Buffer& buffer, V value) {
   using U = typename UnsignedOf<sizeof(V)>::type;
   U bits;
   std::memcpy(&bits, &value, sizeof(V));
   u8 bytes[sizeof(V)];
-  for (std::size_t i = 0; i < sizeof(V); ++i) bytes[i] = static_cast<u8>(bits >> (8 * i));
+  if constexpr (kHostIsLittleEndian) {
+    std::memcpy(bytes, &bits, sizeof(V));
+  } else {
+    for (std::size_t i = 0; i < sizeof(V); ++i) bytes[i] = static_cast<u8>(bits >> (8 * i));
+  }
   buffer.AppendData(bytes, sizeof(V));
 }
 
@@ -54,7 +65,11 @@ void Get(CZEL_Buffer& buffer, V& value) {
   u8 bytes[sizeof(V)];
   buffer.RetrieveData(bytes, sizeof(V));
   U bits = 0;
-  for (std::size_t i = 0; i < sizeof(V); ++i) bits |= static_cast<U>(U{bytes[i]} << (8 * i));
+  if constexpr (kHostIsLittleEndian) {
+    std::memcpy(&bits, bytes, sizeof(V));
+  } else {
+    for (std::size_t i = 0; i < sizeof(V); ++i) bits |= static_cast<U>(U{bytes[i]} << (8 * i));
+  }
   std::memcpy(&value, &bits, sizeof(V));
 }
 

@@ -46,6 +46,21 @@
 #include <LZEL_Core/frame/ZEL_Types.h>
 
 #include <cstring>
+#include <type_traits>
+
+namespace ZEL {
+namespace internal {
+// `long long` and `unsigned long long` where they are types of their own
+// beside `i64` and `u64` (as on LP64 platforms, where those are `long`).
+template <typename T>
+constexpr bool kIsOwnLongLong = (std::is_same_v<T, long long> ||
+                                 std::is_same_v<T, unsigned long long>)&&!std::is_same_v<T, i64> &&
+                                !std::is_same_v<T, u64>;
+// The stream's 8-byte type for such a `T`.
+template <typename T>
+using StreamWideOf = std::conditional_t<std::is_signed_v<T>, i64, u64>;
+}  // namespace internal
+}  // namespace ZEL
 
 class ZEL_API CZEL_Buffer : public CZEL_Object {
  public:
@@ -132,6 +147,23 @@ class ZEL_API CZEL_Buffer : public CZEL_Object {
   virtual void operator>>(ZEL::u8& value);
   virtual void operator>>(char& value);
 
+  // A `long long` or `unsigned long long` where it is not `i64` or `u64`
+  // itself: written as the 8-byte `i64` or `u64`, so that `buffer << 1LL`
+  // means what it says. Throws as `AppendData`.
+  template <typename T, std::enable_if_t<ZEL::internal::kIsOwnLongLong<T>, int> = 0>
+  void operator<<(T value) {
+    operator<<(static_cast<ZEL::internal::StreamWideOf<T>>(value));
+  }
+
+  // Reads the 8-byte `i64` or `u64` into a `long long` or `unsigned long
+  // long`. Throws as `RetrieveData`; a failed read leaves `value` alone.
+  template <typename T, std::enable_if_t<ZEL::internal::kIsOwnLongLong<T>, int> = 0>
+  void operator>>(T& value) {
+    ZEL::internal::StreamWideOf<T> wide = 0;
+    operator>>(wide);
+    value = static_cast<T>(wide);
+  }
+
   // ---------------------------------------------------------------------------
   // State
   // ---------------------------------------------------------------------------
@@ -159,13 +191,18 @@ class ZEL_API CZEL_Buffer : public CZEL_Object {
   }
 
   // Copies `count` bytes, none for a `count` of 0 whatever the pointers.
-  // The few bytes of a typed value are moved one by one, sparing the call.
+  // The sizes of the typed values are copied with a fixed size each, which
+  // the compiler makes into one load and one store.
   static void CopyBytes(void* to, void const* from, ZEL::u64 count) {
-    if (count <= 8) {
-      for (ZEL::u64 i = 0; i < count; ++i) {
-        static_cast<ZEL::u8*>(to)[i] = static_cast<ZEL::u8 const*>(from)[i];
-      }
-    } else {
+    if (count == 8) {
+      std::memcpy(to, from, 8);
+    } else if (count == 4) {
+      std::memcpy(to, from, 4);
+    } else if (count == 2) {
+      std::memcpy(to, from, 2);
+    } else if (count == 1) {
+      std::memcpy(to, from, 1);
+    } else if (count != 0) {
       std::memcpy(to, from, count);
     }
   }

@@ -4,36 +4,17 @@
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 using ZEL::u32;
 using ZEL::u64;
 
 namespace {
-
-// The largest run handed to one `CZEL_File::Read`. The buffer grows run by
-// run, so that a length that the stream reports but can't deliver (that of a
-// directory, say) costs no more than one run.
-constexpr u64 kReadRun = u64{1} << 24;
-
-// The file's bytes from its start: all `length` of them, or fewer if a read
-// came up short.
-std::vector<char> ReadBytes(CZEL_File& file, u64 length) {
-  std::vector<char> bytes;
-  for (u64 done = 0; done < length;) {
-    u64 const count = std::min(kReadRun, length - done);
-    bytes.resize(done + count);
-    if (file.Read(bytes.data() + done, count) != ZEL_ERR_NONE) {
-      bytes.resize(std::clamp(file.GetPos(), done, done + count));
-      break;
-    }
-    done += count;
-  }
-  return bytes;
-}
 
 // Closes a file on every way out of a scope.
 class CCloseGuard {
@@ -47,57 +28,85 @@ class CCloseGuard {
   CZEL_File& m_File;
 };
 
-// Hands out the lines of a file's bytes as `CZEL_File::ReadTextLine` reads
-// them one call after the other: a line ends at a line feed or at the end of
-// the file, and bytes 13 and 0 are dropped. The bytes are all in memory, so
-// that the file is read in large runs instead of byte by byte; the results
-// are the same.
-class CLineSplitter {
+// The largest run handed to one `CZEL_File::Read`: the reader holds one run
+// of the file at a time, whatever the file's length.
+constexpr u64 kReadRun = u64{1} << 16;
+
+// Hands out the lines of a file as `CZEL_File::ReadTextLine` reads them one
+// call after the other: a line ends at a line feed or at the end of the file,
+// and bytes 13 and 0 are dropped. The file is read run by run instead of
+// byte by byte; the results are the same.
+class CLineReader {
  public:
   enum t_Step : u32 { LINE, END, FAILED };
 
-  // `available` of the file's `length` bytes could be read.
-  CLineSplitter(char const* bytes, u64 available, u64 length)
-      : m_Bytes(bytes), m_Available(available), m_Length(length), m_Pos(0) {}
+  // Reads `file`, at its start, of `length` bytes.
+  CLineReader(CZEL_File& file, u64 length)
+      : m_File(file), m_Length(length), m_Run(std::min(kReadRun, length)) {}
 
   // The next line's text into `line`, and LINE. END once the whole file has
-  // been read. FAILED, as for a failing `ReadTextLine`, when the bytes end
-  // before the file does, or when the file ends after a line feed with
-  // nothing but dropped bytes.
+  // been read. FAILED, as for a failing `ReadTextLine`, when the file's bytes
+  // can't be read up to its length before the line ends, or when the file
+  // ends after a line feed with nothing but dropped bytes.
   t_Step Next(std::string& line) {
     if (m_Pos >= m_Length) return END;
-    char const* const begin = m_Bytes + m_Pos;
-    u64 const left = m_Available - m_Pos;
-    auto const* feed =
-        left == 0 ? nullptr : static_cast<char const*>(std::memchr(begin, '\n', left));
-    if (feed == nullptr && m_Available < m_Length) return FAILED;
-    u64 const count = feed != nullptr ? static_cast<u64>(feed - begin) : left;
-    Keep(begin, count, line);
-    if (feed == nullptr && line.empty()) return FAILED;
-    m_Pos += count + (feed != nullptr ? 1 : 0);
-    return LINE;
+    line.clear();
+    while (m_At != m_End || Fill()) {
+      char const* const begin = m_Run.data() + m_At;
+      u64 const left = m_End - m_At;
+      auto const* feed = static_cast<char const*>(std::memchr(begin, '\n', left));
+      u64 const count = feed != nullptr ? static_cast<u64>(feed - begin) : left;
+      Keep(begin, count, line);
+      u64 const used = count + (feed != nullptr ? 1 : 0);
+      m_At += used;
+      m_Pos += used;
+      if (feed != nullptr) return LINE;
+    }
+    return m_Short || line.empty() ? FAILED : LINE;
   }
 
  private:
-  // The `count` bytes at `text` less every byte 13 and 0.
+  // The next run of the file into `m_Run`; false if no byte came. A read that
+  // comes up short keeps the bytes that it delivered, and is the last.
+  bool Fill() {
+    if (m_Short || m_Read >= m_Length) return false;
+    u64 const count = std::min(kReadRun, m_Length - m_Read);
+    u64 got = count;
+    if (m_File.Read(m_Run.data(), count) != ZEL_ERR_NONE) {
+      m_Short = true;
+      got = std::clamp(m_File.GetPos(), m_Read, m_Read + count) - m_Read;
+    }
+    m_Read += got;
+    m_At = 0;
+    m_End = got;
+    return got != 0;
+  }
+
+  // Adds the `count` bytes at `text` to `line`, less every byte 13 and 0.
   static void Keep(char const* text, u64 count, std::string& line) {
-    line.clear();
     for (char const* end = text + count; text != end; ++text) {
       if (*text != '\0' && *text != '\r') line += *text;
     }
   }
 
-  char const* m_Bytes;
-  u64 m_Available;
+  CZEL_File& m_File;
   u64 m_Length;
-  u64 m_Pos;
+  std::vector<char> m_Run;
+  // The bytes of `m_Run` used up and delivered.
+  u64 m_At = 0;
+  u64 m_End = 0;
+  // The bytes read from the file, and those handed out in lines.
+  u64 m_Read = 0;
+  u64 m_Pos = 0;
+  // A read came up short: the file holds no more bytes than those read.
+  bool m_Short = false;
 };
 
 // Calls `emit(text, length)` for each field of `line` split at `separator`,
 // by the rule of `CZEL_String::ExtractTags`: empty fields at the start and
 // between separators count, an empty one after a final separator does not.
 template <typename Emit>
-void ScanFields(std::string const& line, char separator, Emit&& emit) {
+void ScanFields(std::string_view line, char separator, Emit&& emit) {
   u32 const length = static_cast<u32>(line.size());
   u32 start = 0;
   for (u32 pos = 0; pos < length; ++pos) {
@@ -111,7 +120,7 @@ void ScanFields(std::string const& line, char separator, Emit&& emit) {
 // Fills the `count` fields of `record`, created here, from `line`. Each field
 // string gets its exact buffer once and the text is copied into it, so that
 // a field costs one allocation beside the vector's own.
-void FillRecord(std::string const& line, char separator, u32 count, CZEL_StringVector& record) {
+void FillRecord(std::string_view line, char separator, u32 count, CZEL_StringVector& record) {
   record.Create(count);
   CZEL_String* field = record.GetBuf();
   ScanFields(line, separator, [&field](char const* text, u32 length) {
@@ -191,10 +200,10 @@ u32 CZEL_CsvFile::WriteRecord(CZEL_StringList& fields) {
 // Reading
 // -----------------------------------------------------------------------------
 
-// A first pass finds the lines, so that the array is made once with its
-// exact length. The second counts each line's fields, as `ExtractTags` would
-// split it, and only a line of the right count is split into its record;
-// the records before a bad line are counted and then dropped.
+// Line by line, each line's fields are counted as `ExtractTags` would split
+// it, and a line of another count stops the reading at once. The lines of
+// good records wait back to back in one string, so that the array is made
+// once with its exact length and each record's fields with theirs.
 CZEL_StringVector* CZEL_CsvFile::ReadFile(CZEL_String const& path, u32& recordCount) {
   if (Open(path, FILE_OPEN_READ) != ZEL_ERR_NONE) return nullptr;
   CZEL_File& file = *this;
@@ -202,24 +211,25 @@ CZEL_StringVector* CZEL_CsvFile::ReadFile(CZEL_String const& path, u32& recordCo
   ToStart();
   recordCount = 0;
 
-  u64 const length = GetLength();
-  std::vector<char> const bytes = ReadBytes(file, length);
-
+  CLineReader reader(file, GetLength());
   std::string sLine;
-  u32 lines = 0;
-  CLineSplitter counter(bytes.data(), bytes.size(), length);
-  CLineSplitter::t_Step step = CLineSplitter::LINE;
-  while ((step = counter.Next(sLine)) == CLineSplitter::LINE) ++lines;
-
-  std::unique_ptr<CZEL_StringVector[]> records(new CZEL_StringVector[lines]);
-  CLineSplitter splitter(bytes.data(), bytes.size(), length);
-  for (u32 i = 0; i < lines; ++i) {
-    splitter.Next(sLine);
+  std::string kept;
+  std::vector<std::size_t> ends;
+  CLineReader::t_Step step = CLineReader::LINE;
+  while ((step = reader.Next(sLine)) == CLineReader::LINE) {
     u32 fields = 0;
     ScanFields(sLine, m_Separator, [&fields](char const*, u32) { ++fields; });
     ++recordCount;
     if (fields != m_FieldCount) return nullptr;
-    FillRecord(sLine, m_Separator, fields, records[i]);
+    kept += sLine;
+    ends.push_back(kept.size());
   }
-  return step == CLineSplitter::END ? records.release() : nullptr;
+  if (step == CLineReader::FAILED) return nullptr;
+
+  std::unique_ptr<CZEL_StringVector[]> records(new CZEL_StringVector[ends.size()]);
+  std::string_view const all(kept);
+  for (std::size_t i = 0, start = 0; i < ends.size(); start = ends[i++]) {
+    FillRecord(all.substr(start, ends[i] - start), m_Separator, m_FieldCount, records[i]);
+  }
+  return records.release();
 }

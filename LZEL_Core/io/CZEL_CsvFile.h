@@ -101,6 +101,10 @@ class ZEL_API CZEL_CsvFile : protected CZEL_File {
   // nothing but bytes 13 and 0 after the last line feed, or the reading
   // fails, `recordCount` is the number of lines read before. The object is
   // closed afterwards, whatever it held before.
+  //
+  // The file is read line by line, and a line of another field count stops
+  // the reading at once: what the reading holds is the records that it
+  // returns and one line, whatever the file's length.
   CZEL_StringVector* ReadFile(CZEL_String const& path, ZEL::u32& recordCount);
 
  protected:

@@ -2,6 +2,8 @@
 
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
+#include <algorithm>
+
 using ZEL::u32;
 using ZEL::u64;
 using ZEL::u8;
@@ -88,12 +90,25 @@ void CZEL_FileBuffer::ToStart() {
 void CZEL_FileBuffer::ToEnd() { Fail(ZEL_ERR_NOT_SUPPORTED); }
 
 // A full block leaves at once; the file's answer is not looked at, so a full
-// disk does not stop the stream.
+// disk does not stop the stream. A transfer that stays inside the block, as
+// every typed value but the one that fills it does, takes the short way.
 void CZEL_FileBuffer::AppendData(void* data, u32 count) {
   if (m_File == nullptr) Fail(ZEL_ERR_IO);
   CheckWrite();
+  if (m_BlockOffset + count < m_BlockSize) {
+    CopyBytes(m_Block + m_BlockOffset, data, count);
+    m_BlockOffset += count;
+    m_Size += count;
+    m_Position += count;
+  } else {
+    AppendAcross(static_cast<u8*>(data), count);
+  }
+  m_AtEnd = 1;
+}
+
+void CZEL_FileBuffer::AppendAcross(u8* data, u32 count) {
   WalkBlocks(
-      static_cast<u8*>(data), count, true, m_Block, m_BlockOffset,
+      data, count, true, m_Block, m_BlockOffset,
       [this] {
         m_File->Write(m_Block, m_BlockSize, 1);
         return m_Block;
@@ -102,28 +117,59 @@ void CZEL_FileBuffer::AppendData(void* data, u32 count) {
         m_Size += chunk;
         m_Position += chunk;
       });
-  m_AtEnd = 1;
 }
 
 // The refill always asks for a whole block. At the last, shorter block the
 // file reports a short read, which is expected: the bytes that were there are
-// in the block, and the size keeps the reader from going further.
-void CZEL_FileBuffer::Refill() {
-  if (m_File != nullptr) m_LastReadResult = m_File->Read(m_Block, m_BlockSize);
+// in the block, and the size keeps the reader from going further. A file that
+// delivers fewer bytes than its length promised (one cut short under the
+// buffer) ends the stream where its bytes end: the size shrinks to them, so
+// that no byte of the block that the file did not fill is ever handed out.
+// `boundary` is the stream position of the block's first byte.
+void CZEL_FileBuffer::Refill(u64 boundary) {
+  if (m_File == nullptr) return;
+  m_LastReadResult = m_File->Read(m_Block, m_BlockSize);
+  if (m_LastReadResult == ZEL_ERR_NONE) return;
+  u64 const end = std::clamp(m_File->GetPos(), boundary, boundary + m_BlockSize);
+  if (end < m_Size) m_Size = end;
 }
 
 void CZEL_FileBuffer::RetrieveData(void* data, u32 count) {
   // The base's checks, then its range test repeated with another code, which
   // can't fire behind the first.
   CheckRead();
-  if (m_Position + count > m_Size) Fail(ZEL_ERR_OUT_OF_RANGE);
-  if (m_Position + count > m_Size) Fail(ZEL_ERR_READ_DENIED);
-  WalkBlocks(
-      static_cast<u8*>(data), count, false, m_Block, m_BlockOffset,
-      [this] {
-        Refill();
-        return m_Block;
-      },
-      [this](u32 chunk) { m_Position += chunk; });
+  u64 const end = m_Position + count;
+  if (end > m_Size) Fail(ZEL_ERR_OUT_OF_RANGE);
+  if (end > m_Size) Fail(ZEL_ERR_READ_DENIED);
+  if (m_BlockOffset + count < m_BlockSize) {
+    CopyBytes(data, m_Block + m_BlockOffset, count);
+    m_BlockOffset += count;
+    m_Position = end;
+  } else {
+    RetrieveAcross(static_cast<u8*>(data), count);
+  }
   m_AtEnd = m_Position >= m_Size ? 1 : 0;
+}
+
+void CZEL_FileBuffer::RetrieveAcross(u8* data, u32 count) {
+  u64 const end = m_Position + count;
+  WalkBlocks(
+      data, count, false, m_Block, m_BlockOffset, [this, end] { return Turn(end); },
+      [this](u32 chunk) { m_Position += chunk; });
+}
+
+// The walk's turn at the block's end while reading: a refill. When the file
+// came up short of the bytes this transfer needs, the stream stands at the
+// new block's start, the bytes before it delivered, and the read fails as
+// one past the size.
+u8* CZEL_FileBuffer::Turn(u64 end) {
+  u64 const boundary = m_Position + (m_BlockSize - m_BlockOffset);
+  Refill(boundary);
+  if (end > m_Size) {
+    m_Position = boundary;
+    m_BlockOffset = 0;
+    m_AtEnd = m_Position >= m_Size ? 1 : 0;
+    Fail(ZEL_ERR_OUT_OF_RANGE);
+  }
+  return m_Block;
 }

@@ -41,6 +41,11 @@
 // writing: a second writing attachment goes on from the first one's total.
 //
 // A file that refuses a write or a read is not reported: the stream goes on.
+// A file that holds fewer bytes than its length promised when it was
+// attached (cut short meanwhile, say) ends the stream where its bytes end:
+// the size shrinks to them, and a read that reaches beyond throws
+// ZEL_ERR_OUT_OF_RANGE, the bytes before that point delivered. No byte that
+// the file did not deliver is ever handed out.
 // Bytes waiting in the block reach the file at `Close` or at destruction;
 // `Abort` drops them.
 //
@@ -123,8 +128,20 @@ class ZEL_API CZEL_FileBuffer : public CZEL_Buffer {
   ZEL::u64 m_LastReadResult;
 
  private:
-  // Fills the block from the file; a missing file leaves it as it is.
-  void Refill();
+  // The transfers that reach the block's end, walked block by block; kept
+  // out of `AppendData` and `RetrieveData`, whose usual case is a few bytes
+  // inside the block.
+  void AppendAcross(ZEL::u8* data, ZEL::u32 count);
+  void RetrieveAcross(ZEL::u8* data, ZEL::u32 count);
+
+  // Fills the block from the file, whose bytes from `boundary` on it holds;
+  // a file that delivers fewer than the size counts on cuts the size to
+  // them. A missing file leaves the block as it is.
+  void Refill(ZEL::u64 boundary);
+
+  // Refills the block at its end during a read that ends at `end`; throws
+  // ZEL_ERR_OUT_OF_RANGE when the file can't deliver that far.
+  ZEL::u8* Turn(ZEL::u64 end);
 };
 
 #endif  // LZEL_CORE_IO_CZEL_FILE_BUFFER_H_

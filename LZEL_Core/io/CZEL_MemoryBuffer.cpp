@@ -2,6 +2,8 @@
 
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
+#include <utility>
+
 using ZEL::u32;
 using ZEL::u64;
 using ZEL::u8;
@@ -22,6 +24,13 @@ CZEL_MemoryBuffer::CBlockList& CZEL_MemoryBuffer::CBlockList::operator=(CBlockLi
 }
 CZEL_MemoryBuffer::CBlockList::~CBlockList() = default;
 
+void CZEL_MemoryBuffer::CBlockList::SwapChains(CBlockList& other) noexcept {
+  std::swap(m_Head, other.m_Head);
+  std::swap(m_Tail, other.m_Tail);
+  std::swap(m_Cur, other.m_Cur);
+  std::swap(m_Length, other.m_Length);
+}
+
 CZEL_MemoryBuffer::CZEL_MemoryBuffer(u32 blockSize)
     : CZEL_Buffer(blockSize), m_BlockOffset(0), m_CurBlock(nullptr), m_CurBlockIndex(0) {}
 
@@ -35,6 +44,33 @@ CZEL_MemoryBuffer::CZEL_MemoryBuffer(CZEL_MemoryBuffer const& src)
 CZEL_MemoryBuffer& CZEL_MemoryBuffer::operator=(CZEL_MemoryBuffer const& src) {
   DataCopy(src);
   return *this;
+}
+
+// The cursor's block is a node of the chain, so it goes along with it.
+CZEL_MemoryBuffer::CZEL_MemoryBuffer(CZEL_MemoryBuffer&& src) noexcept
+    : CZEL_Buffer(src),
+      m_BlockOffset(src.m_BlockOffset),
+      m_CurBlock(src.m_CurBlock),
+      m_CurBlockIndex(src.m_CurBlockIndex) {
+  m_Blocks.SwapChains(src.m_Blocks);
+  src.CZEL_MemoryBuffer::DeleteAll();  // the chain is empty: only the fields
+}
+
+CZEL_MemoryBuffer& CZEL_MemoryBuffer::operator=(CZEL_MemoryBuffer&& src) noexcept {
+  CZEL_MemoryBuffer taken(std::move(src));
+  Swap(taken);
+  return *this;
+}
+
+void CZEL_MemoryBuffer::Swap(CZEL_MemoryBuffer& other) noexcept {
+  std::swap(m_Size, other.m_Size);
+  std::swap(m_AtEnd, other.m_AtEnd);
+  std::swap(m_BlockSize, other.m_BlockSize);
+  std::swap(m_Access, other.m_Access);
+  std::swap(m_BlockOffset, other.m_BlockOffset);
+  std::swap(m_CurBlock, other.m_CurBlock);
+  std::swap(m_CurBlockIndex, other.m_CurBlockIndex);
+  m_Blocks.SwapChains(other.m_Blocks);
 }
 
 CZEL_MemoryBuffer::~CZEL_MemoryBuffer() { CZEL_MemoryBuffer::DeleteAll(); }

@@ -57,6 +57,13 @@ class ZEL_API CZEL_MemoryBuffer : public CZEL_Buffer {
     CBlockList& operator=(CBlockList const& src);
     CBlockList& operator=(CBlockList&& src);  // NOLINT(performance-noexcept-move-constructor)
     ~CBlockList() override;
+
+   private:
+    friend class CZEL_MemoryBuffer;
+    // Exchanges the nodes of two chains, cursors included. Only for chains
+    // that have never taken `InsertItems` or `InsertList`, as a buffer's
+    // own chain never does.
+    void SwapChains(CBlockList& other) noexcept;
   };
 
   // An empty buffer with no block yet.
@@ -65,6 +72,20 @@ class ZEL_API CZEL_MemoryBuffer : public CZEL_Buffer {
   // Copy the blocks and the cursor as it stands: see the file comment.
   CZEL_MemoryBuffer(CZEL_MemoryBuffer const& src);
   CZEL_MemoryBuffer& operator=(CZEL_MemoryBuffer const& src);
+
+  // Takes over `src`'s blocks, cursor and fields without copying a byte;
+  // `src` is left empty, as after `DeleteAll`, with its block size and
+  // access.
+  CZEL_MemoryBuffer(CZEL_MemoryBuffer&& src) noexcept;
+
+  // Takes over `src`'s blocks as the move constructor does; this buffer's
+  // own blocks are released and `src` is left empty.
+  CZEL_MemoryBuffer& operator=(CZEL_MemoryBuffer&& src) noexcept;
+
+  // Exchanges the whole contents of two buffers (blocks, cursors, size, end
+  // mark, block size and access) without copying a byte.
+  void Swap(CZEL_MemoryBuffer& other) noexcept;
+  friend void swap(CZEL_MemoryBuffer& a, CZEL_MemoryBuffer& b) noexcept { a.Swap(b); }
 
   // `DeleteAll`.
   ~CZEL_MemoryBuffer() override;

@@ -76,14 +76,17 @@ void CZEL_WinBitmapData::DataCopy(CZEL_WinBitmapData const& src) {
 // -----------------------------------------------------------------------------
 
 // The header's checks run on the length taken at the start, so that the
-// single reads behind them can't come up short.
+// single reads behind them can't come up short in a sound file. A file that
+// holds fewer bytes than its length says, or can't be read at all, is too
+// short like one of a lesser length: no field is taken from bytes that no
+// read wrote.
 u32 CZEL_WinBitmapData::ReadInfoFromFile(CZEL_File& file, SInfoHeader& info, u32* pixelOffset) {
   file.ToStart();
   u64 const length = file.GetLength();
   if (length < kFileHeaderBytes) return ZEL_ERR_BAD_FORMAT;
 
   u8 head[kFileHeaderBytes];
-  file.Read(head, kFileHeaderBytes);
+  if (file.Read(head, kFileHeaderBytes) != ZEL_ERR_NONE) return ZEL_ERR_BAD_FORMAT;
   if (head[0] != 'B' || head[1] != 'M') return ZEL_ERR_BAD_FORMAT;
   // Bytes 2 to 9, the file size and the reserved word, are skipped.
   if (pixelOffset != nullptr) *pixelOffset = LittleU32(head + 10);
@@ -92,7 +95,7 @@ u32 CZEL_WinBitmapData::ReadInfoFromFile(CZEL_File& file, SInfoHeader& info, u32
   if (length < kMinInfoFileBytes) return ZEL_ERR_BAD_FORMAT;
 
   u8 rest[kInfoRestBytes];
-  file.Read(rest, kInfoRestBytes);
+  if (file.Read(rest, kInfoRestBytes) != ZEL_ERR_NONE) return ZEL_ERR_BAD_FORMAT;
   info.biWidth = LittleInt(rest + 0);
   info.biHeight = LittleInt(rest + 4);
   info.biPlanes = LittleU16(rest + 8);

@@ -117,7 +117,8 @@ class ZEL_API CZEL_WinBitmapData : public CZEL_Object {
   // array's offset into `*pixelOffset` unless it is null. Returns 0,
   // ZEL_ERR_IO if the file can't be opened, or ZEL_ERR_BAD_FORMAT if the file
   // is shorter than 18 bytes, lacks the "BM" signature, has a header size
-  // other than 40, 108 or 124, or is shorter than 54 bytes. The fields read
+  // other than 40, 108 or 124, or is shorter than 54 bytes; also if it
+  // holds fewer bytes than its length says, or can't be read. The fields read
   // before a failure stay in `info`. A pixel array size of 0 comes back
   // computed from width, height and bits per pixel, in 32 bits.
   static ZEL::u32 ReadInfoFromFile(CZEL_String const& path, SInfoHeader& info,

@@ -70,7 +70,9 @@ CZEL_Buffer& operator>>(CZEL_Buffer& buffer, CZEL_IpAddress& address) {
   address.m_Kind = usType;
   u32 count = 0;
   buffer >> count;
-  if (count != address.m_Digits.GetLength()) address.m_Digits.Create(count);
+  // The digits start at 0, so that a stream that ends among them leaves
+  // zeros behind the digits read, never bytes that no read wrote.
+  if (count != address.m_Digits.GetLength()) address.m_Digits.Create(count, 0);
   for (u32 i = 0; i < count; ++i) buffer >> address.m_Digits[i];
   return buffer;
 }

@@ -51,7 +51,7 @@
 // string whose length could be read and whose characters could not has
 // already taken that length, its old characters kept and blanks added. An
 // address is made invalid before anything is read; one whose kind could be
-// read keeps it, with the digits read so far, the others unset. A colour,
+// read keeps it, with the digits read so far, the others 0. A colour,
 // date or time whose one read fails is not touched. An address of an
 // unknown kind throws ZEL_ERR_FAILED with the buffer as the object, and stays
 // invalid.

@@ -122,7 +122,16 @@ TEST_F(WinBitmapDataTest, HeaderChecks) {
     EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("t.bmp"), info, nullptr), row.code);
     EXPECT_EQ(info.biWidth, row.code == 0 ? 3 : 77);  // the fields before a failure only
   }
+  // A header that can't be read, from a file open for writing alone, is
+  // refused as too short whatever its bytes hold.
+  struct Reader : CZEL_WinBitmapData {
+    using CZEL_WinBitmapData::ReadInfoFromFile;
+  };
   CZEL_WinBitmapData::SInfoHeader info{};
+  F writeOnly;
+  Spit("t.bmp", Bmp().Bytes());
+  ASSERT_EQ(writeOnly.Open(Z("t.bmp"), F::FILE_OPEN_WRITE), 0u);
+  EXPECT_EQ(Reader::ReadInfoFromFile(writeOnly, info, nullptr) + info.biSize, ZEL_ERR_BAD_FORMAT);
   u32 offset = 0;
   EXPECT_EQ(CZEL_WinBitmapData::ReadInfoFromFile(Z("none"), info, &offset) +
                 m_Bitmap.LoadFromFile(Z("none")),

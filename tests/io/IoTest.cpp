@@ -178,14 +178,33 @@ TEST(BufferTest, TypedValuesReadBackAndBaseRefuses) {
   EXPECT_ZEL_THROW(Take(base, 1), ZEL_ERR_NOT_SUPPORTED, &base);
 }
 
-TEST(BufferTest, UnknownAddressKindThrows) {
-  // Kind 2 is neither IPv4, IPv6 nor invalid: the reader throws from the
-  // buffer and leaves the address invalid.
-  CZEL_MemoryBuffer b;
-  b << ZEL::u16(2);
-  b << ZEL::u32(0);
+// `long long` values travel as the 8-byte i64 and u64; moves and swaps hand
+// the blocks over, the source left empty. An address cut among its digits
+// keeps the digits read and zeros, never bytes that no read wrote; one of
+// the unknown kind 2 throws from the buffer and stays invalid.
+TEST(BufferTest, LongLongMovesAndCutAddress) {
+  CZEL_MemoryBuffer b(3), other(5);
+  b << -2LL, b << 3ULL;
+  EXPECT_EQ(Reread(b, 16), "\xFE\xFF\xFF\xFF\xFF\xFF\xFF\xFF\3\0\0\0\0\0\0\0"s);
+  CZEL_MemoryBuffer moved(std::move(b));
+  EXPECT_EQ(b.GetSize() + b.IsEnd() + b.GetAbsPosition(), 1u);  // NOLINT(bugprone-use-after-move)
+  swap(moved, other);
+  b = std::move(other);
   b.ToStart();
-  CZEL_IpAddress address(CZEL_String("1.2.3.4"));
+  long long ll = 0;
+  unsigned long long ull = 0;
+  b >> ll, b >> ull;
+  EXPECT_TRUE(ll == -2 && ull == 3 && moved.GetSize() == 0);
+  EXPECT_ZEL_THROW(b >> ll, ZEL_ERR_OUT_OF_RANGE, &b);
+  b.DeleteAll();
+  b << ZEL::u16(0), b << ZEL::u32(4), b << ZEL::u32(1);
+  b.ToStart();
+  CZEL_IpAddress address;
+  EXPECT_ZEL_THROW(b >> address, ZEL_ERR_OUT_OF_RANGE, &b);
+  EXPECT_EQ(Text(address.ToString()) + std::to_string(ll), "1.0.0.0-2");
+  b.DeleteAll();
+  b << ZEL::u16(2);
+  b.ToStart();
   EXPECT_ZEL_THROW(b >> address, ZEL_ERR_FAILED, &b);
   EXPECT_EQ(address.ToString().GetLength(), 0u);
 }
@@ -285,6 +304,26 @@ TEST_F(FileBufferTest, ValuesToFileAndBack) {
   EXPECT_ZEL_THROW(buffer >> d1, ZEL_ERR_OUT_OF_RANGE, &buffer);
   EXPECT_EQ(buffer.GetAbsPosition(), expected.size());
   EXPECT_TRUE(d1 == date);
+}
+
+// A file cut short under the buffer ends the stream where its bytes end: the
+// read that reaches beyond fails as one past the size, the bytes before it
+// delivered, and no byte of the block that the file did not fill comes out.
+TEST_F(FileBufferTest, FileCutShortEndsTheStream) {
+  // Blocks larger than the runtime's own buffer, so that the cut is seen.
+  std::string content(20000, ' '), got(10, '.');
+  for (std::size_t i = 0; i < content.size(); ++i) content[i] = char('a' + i % 26);
+  Spit("f", content);
+  OpenFile(kR);
+  CZEL_FileBuffer b(8192);
+  ASSERT_EQ(b.AttachFile(&m_File, B::ACCESS_READ), 0u);
+  EXPECT_EQ(Take(b, 8190), content.substr(0, 8190));
+  Spit("f", content.substr(0, 8195));
+  EXPECT_ZEL_THROW(b.RetrieveData(got.data(), 10), ZEL_ERR_OUT_OF_RANGE, &b);
+  EXPECT_EQ(got + std::to_string(b.GetSize() + b.GetAbsPosition() + b.IsEnd()),
+            content.substr(8190, 2) + "........" + std::to_string(8195 + 8192));
+  EXPECT_EQ(Take(b, 3), content.substr(8192, 3));
+  EXPECT_ZEL_THROW(Take(b, 1), ZEL_ERR_OUT_OF_RANGE, &b);
 }
 
 }  // namespace
