@@ -1,13 +1,12 @@
 #include <LZEL_Core/calendar/CZEL_Date.h>
 
+#include <LZEL_Core/calendar/ZEL_CalendarFormat.h>
 #include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
 #include <algorithm>
 #include <climits>
 #include <cstdint>
-#include <cstdio>
-#include <cstring>
 
 using ZEL::i64;
 using ZEL::u16;
@@ -298,28 +297,34 @@ void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
   date.year = StoredYear(year);
 }
 
+// The number fields of the format strings, read by `ToString` and `Parse`
+// alike. %y shows the last two digits of the year without its sign, with no
+// padding for a one-digit year, so it is written apart from the table's
+// widths; it names no part that `Parse` sets.
+enum : u8 { kPartDay, kPartMonth, kPartYear, kPartYearEnd };
+constexpr u32 kDayMonthYear = 1u << kPartDay | 1u << kPartMonth | 1u << kPartYear;
+constexpr ZEL::t_FormatField kDateFieldTable[] = {
+    {'d', kPartDay, 0, 2, 0},   {'D', kPartDay, 2, 2, 0},   {'m', kPartMonth, 0, 2, 0},
+    {'M', kPartMonth, 2, 2, 0}, {'Y', kPartYear, 0, 10, 1}, {'y', kPartYearEnd, 0, 2, 0}};
+constexpr ZEL::t_FormatFields kDateFields{kDateFieldTable, 6};
+
 // The text of a `ToString` field of `date`, or -1 for a character that
-// names none. %D and %M pad with zeros to two digits; %y keeps the last two
-// digits of the year without its sign.
-int ExpandDateField(char field, CZEL_Date::t_Date_Struct const& date, char* text) {
-  switch (field) {
-    case 'd':
-    case 'D':
-      return ZEL::FormatFieldNumber(date.day, field == 'D' ? 2 : 0, text);
-    case 'm':
-    case 'M':
-      return ZEL::FormatFieldNumber(date.month, field == 'M' ? 2 : 0, text);
-    case 'Y':
-      return ZEL::FormatFieldNumber(date.year, 0, text);
-    case 'y': {
-      long long const magnitude = date.year < 0 ? -static_cast<long long>(date.year) : date.year;
-      int const length = std::snprintf(text, ZEL::kFieldTextSize, "%lld", magnitude);
-      if (length <= 2) return length;
-      std::memmove(text, text + length - 2, 3);
-      return 2;
+// names none.
+int ExpandDateField(char code, CZEL_Date::t_Date_Struct const& date, char* text) {
+  ZEL::t_FormatField const* const field = kDateFields.Find(code);
+  if (field == nullptr) return -1;
+  switch (field->part) {
+    case kPartDay:
+      return ZEL::FormatFieldNumber(date.day, field->width, text);
+    case kPartMonth:
+      return ZEL::FormatFieldNumber(date.month, field->width, text);
+    case kPartYear:
+      return ZEL::FormatFieldNumber(date.year, field->width, text);
+    default: {  // kPartYearEnd
+      i64 const magnitude = date.year < 0 ? -i64{date.year} : date.year;
+      return ZEL::FormatFieldNumber(static_cast<int>(magnitude % 100), magnitude >= 10 ? 2 : 0,
+                                    text);
     }
-    default:
-      return -1;
   }
 }
 
@@ -426,6 +431,29 @@ CZEL_String CZEL_Date::ToString(CZEL_String const& format, t_Calendar calendar) 
   (void)GetDateStruct(date, calendar);
   return ZEL::ExpandFormatFields(
       format, [&date](char field, char* text) { return ExpandDateField(field, date, text); });
+}
+
+// The numbers are read first; the date they make must exist, and must write
+// the text back exactly, which refuses what `ToString` never writes (a `+`,
+// zeros in front, "-0", a %y or a repeated field that disagrees).
+u32 CZEL_Date::Parse(CZEL_String const& text, CZEL_String const& format, t_Calendar calendar) {
+  if (!IsKnown(calendar)) return ZEL_ERR_INVALID_ARGUMENT;
+  if ((ZEL::NamedFormatParts(format, kDateFields) & kDayMonthYear) != kDayMonthYear) {
+    return ZEL_ERR_NOT_SUPPORTED;
+  }
+  ZEL::t_FormatValues read{};
+  if (!ZEL::ReadFormatFields(text, format, kDateFields, read)) return ZEL_ERR_BAD_FORMAT;
+  i64 const year = read.values[kPartYear];
+  if (year < INT_MIN || year > INT_MAX) return ZEL_ERR_BAD_FORMAT;
+  CZEL_Date parsed;
+  if (!InValidRange(parsed.m_JulianDay =
+                        DayNumber(static_cast<int>(year), static_cast<int>(read.values[kPartMonth]),
+                                  static_cast<int>(read.values[kPartDay]), calendar))) {
+    return ZEL_ERR_INVALID_ARGUMENT;
+  }
+  if (!ZEL::SameText(parsed.ToString(format, calendar), text)) return ZEL_ERR_BAD_FORMAT;
+  m_JulianDay = parsed.m_JulianDay;
+  return ZEL_ERR_NONE;
 }
 
 // -----------------------------------------------------------------------------
