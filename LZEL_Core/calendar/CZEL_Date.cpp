@@ -315,15 +315,15 @@ int ExpandDateField(char code, CZEL_Date::t_Date_Struct const& date, char* text)
   if (field == nullptr) return -1;
   switch (field->part) {
     case kPartDay:
-      return ZEL::FormatFieldNumber(date.day, field->width, text);
+      return ZEL::WriteFieldNumber(date.day, field->width, text);
     case kPartMonth:
-      return ZEL::FormatFieldNumber(date.month, field->width, text);
+      return ZEL::WriteFieldNumber(date.month, field->width, text);
     case kPartYear:
-      return ZEL::FormatFieldNumber(date.year, field->width, text);
+      return ZEL::WriteFieldNumber(date.year, field->width, text);
     default: {  // kPartYearEnd
       i64 const magnitude = date.year < 0 ? -i64{date.year} : date.year;
-      return ZEL::FormatFieldNumber(static_cast<int>(magnitude % 100), magnitude >= 10 ? 2 : 0,
-                                    text);
+      return ZEL::WriteFieldNumber(static_cast<int>(magnitude % 100), magnitude >= 10 ? 2 : 0,
+                                   text);
     }
   }
 }
@@ -434,25 +434,27 @@ CZEL_String CZEL_Date::ToString(CZEL_String const& format, t_Calendar calendar) 
 }
 
 // The numbers are read first; the date they make must exist, and must write
-// the text back exactly, which refuses what `ToString` never writes (a `+`,
+// the text back exactly as `ToString` would, which refuses what `ToString` never writes (a `+`,
 // zeros in front, "-0", a %y or a repeated field that disagrees).
 u32 CZEL_Date::Parse(CZEL_String const& text, CZEL_String const& format, t_Calendar calendar) {
   if (!IsKnown(calendar)) return ZEL_ERR_INVALID_ARGUMENT;
-  if ((ZEL::NamedFormatParts(format, kDateFields) & kDayMonthYear) != kDayMonthYear) {
+  ZEL::t_FormatValues read{};
+  u8 const matched = ZEL::ReadFormatFields(text, format, kDateFields, read);
+  if ((read.named & kDayMonthYear) != kDayMonthYear &&
+      (ZEL::NamedFormatParts(format, kDateFields) & kDayMonthYear) != kDayMonthYear) {
     return ZEL_ERR_NOT_SUPPORTED;
   }
-  ZEL::t_FormatValues read{};
-  if (!ZEL::ReadFormatFields(text, format, kDateFields, read)) return ZEL_ERR_BAD_FORMAT;
+  if (!matched) return ZEL_ERR_BAD_FORMAT;
   i64 const year = read.values[kPartYear];
   if (year < INT_MIN || year > INT_MAX) return ZEL_ERR_BAD_FORMAT;
-  CZEL_Date parsed;
-  if (!InValidRange(parsed.m_JulianDay =
-                        DayNumber(static_cast<int>(year), static_cast<int>(read.values[kPartMonth]),
-                                  static_cast<int>(read.values[kPartDay]), calendar))) {
-    return ZEL_ERR_INVALID_ARGUMENT;
-  }
-  if (!ZEL::SameText(parsed.ToString(format, calendar), text)) return ZEL_ERR_BAD_FORMAT;
-  m_JulianDay = parsed.m_JulianDay;
+  i64 const day = DayNumber(static_cast<int>(year), static_cast<int>(read.values[kPartMonth]),
+                            static_cast<int>(read.values[kPartDay]), calendar);
+  if (!InValidRange(day)) return ZEL_ERR_INVALID_ARGUMENT;
+  t_Date_Struct date{};
+  ReadDayNumber(day, calendar, date);
+  auto const expand = [&date](char field, char* out) { return ExpandDateField(field, date, out); };
+  if (!ZEL::FormatWrites(format, expand, text)) return ZEL_ERR_BAD_FORMAT;
+  m_JulianDay = day;
   return ZEL_ERR_NONE;
 }
 

@@ -30,7 +30,7 @@ int ExpandTimeField(char code, CZEL_Time::t_Date_Struct const& time, char* text)
   ZEL::t_FormatField const* const field = kTimeFields.Find(code);
   if (field == nullptr) return -1;
   int const parts[] = {time.hour, time.minute, time.second, time.millisecond};
-  return ZEL::FormatFieldNumber(parts[field->part], field->width, text);
+  return ZEL::WriteFieldNumber(parts[field->part], field->width, text);
 }
 
 }  // namespace
@@ -114,7 +114,8 @@ CZEL_String CZEL_Time::ToString(CZEL_String const& format) const {
 }
 
 // The numbers are read first, the parts the format doesn't name being 0;
-// the time they make must exist, and must write the text back exactly.
+// the time they make must exist, and must write the text back exactly as
+// `ToString` would.
 u32 CZEL_Time::Parse(CZEL_String const& text, CZEL_String const& format) {
   ZEL::t_FormatValues read{};
   if (!ZEL::ReadFormatFields(text, format, kTimeFields, read)) return ZEL_ERR_BAD_FORMAT;
@@ -123,7 +124,10 @@ u32 CZEL_Time::Parse(CZEL_String const& text, CZEL_String const& format) {
   if (!parsed.Set(part(kPartHour), part(kPartMinute), part(kPartSecond), part(kPartMillisecond))) {
     return ZEL_ERR_INVALID_ARGUMENT;
   }
-  if (!ZEL::SameText(parsed.ToString(format), text)) return ZEL_ERR_BAD_FORMAT;
+  t_Date_Struct time{};
+  (void)parsed.GetTimeStruct(time);
+  auto const expand = [&time](char field, char* out) { return ExpandTimeField(field, time, out); };
+  if (!ZEL::FormatWrites(format, expand, text)) return ZEL_ERR_BAD_FORMAT;
   m_Msecs = parsed.m_Msecs;
   return ZEL_ERR_NONE;
 }

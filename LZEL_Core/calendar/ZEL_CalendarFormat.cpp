@@ -1,7 +1,6 @@
 #include <LZEL_Core/calendar/ZEL_CalendarFormat.h>
 
 #include <algorithm>
-#include <cstring>
 
 namespace ZEL {
 
@@ -11,28 +10,6 @@ namespace {
 // counted up to this many; no sensible format comes near it, and the bound
 // keeps each field's look-ahead short.
 constexpr u32 kMaxReserved = 64;
-
-// Walks `format` as `ExpandFormatFields` does: `literal(c)` for each
-// character that stands as it is (the `%` of `%%` included), `field(code,
-// next)` for any other character after `%`, `next` being the position after
-// it. Stops with false as soon as either returns false.
-template <typename Literal, typename Field>
-bool WalkFormat(CZEL_String const& format, Literal&& literal, Field&& field) {
-  char const* const text = format.GetStringC();
-  u32 const length = format.GetLength();
-  for (u32 pos = 0; pos < length; ++pos) {
-    if (text[pos] != '%') {
-      if (!literal(text[pos])) return false;
-    } else if (++pos == length) {
-      break;
-    } else if (text[pos] == '%') {
-      if (!literal('%')) return false;
-    } else if (!field(text[pos], pos + 1)) {
-      return false;
-    }
-  }
-  return true;
-}
 
 // The digits of the padded fields that follow at `next` in `format` with
 // nothing between them, at most about kMaxReserved.
@@ -85,6 +62,7 @@ class CFieldReader {
     for (u32 i = 0; i < take; ++i) value = value * 10 + (m_Text[m_Pos + i] - '0');
     m_Pos += take;
     m_Read.values[field->part] = negative ? -value : value;
+    m_Read.named |= 1u << field->part;
     m_LastBegin = begin;
     m_LastLength = m_Pos - begin;
     return true;
@@ -94,14 +72,7 @@ class CFieldReader {
 
  private:
   // The text of the last number field once more.
-  bool Repeat() {
-    if (m_Length - m_Pos < m_LastLength ||
-        std::memcmp(m_Text + m_Pos, m_Text + m_LastBegin, m_LastLength) != 0) {
-      return false;
-    }
-    m_Pos += m_LastLength;
-    return true;
-  }
+  bool Repeat() { return SameBytesAt(m_Text, m_Length, m_Pos, m_Text + m_LastBegin, m_LastLength); }
 
   char const* m_Text;
   u32 m_Length;
@@ -124,7 +95,6 @@ t_FormatField const* t_FormatFields::Find(char code) const {
 
 u8 ReadFormatFields(CZEL_String const& text, CZEL_String const& format, t_FormatFields fields,
                     t_FormatValues& read) {
-  read.named = NamedFormatParts(format, fields);
   CFieldReader reader(text, format, fields, read);
   bool const matched = WalkFormat(
       format, [&reader](char c) { return reader.Literal(c); },
@@ -142,13 +112,6 @@ u32 NamedFormatParts(CZEL_String const& format, t_FormatFields fields) {
         return true;
       });
   return named;
-}
-
-u8 SameText(CZEL_String const& a, CZEL_String const& b) {
-  return a.GetLength() == b.GetLength() &&
-                 std::memcmp(a.GetStringC(), b.GetStringC(), a.GetLength()) == 0
-             ? 1
-             : 0;
 }
 
 }  // namespace ZEL

@@ -11,6 +11,7 @@
 #ifndef LZEL_CORE_CALENDAR_ZEL_CALENDAR_FORMAT_H_
 #define LZEL_CORE_CALENDAR_ZEL_CALENDAR_FORMAT_H_
 
+#include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 #include <LZEL_Core/text/CZEL_String.h>
 
@@ -37,12 +38,89 @@ struct t_FormatFields {
   t_FormatField const* Find(char code) const;
 };
 
+// Writes `value` in decimal into `text` (kFieldTextSize bytes), with zeros
+// after the sign up to `width` characters, as "%0*d" does, and returns the
+// length. Without the C library's formatting, for speed.
+inline int WriteFieldNumber(int value, int width, char* text) {
+  char digits[kFieldTextSize];
+  int count = 0;
+  long long rest = value < 0 ? -static_cast<long long>(value) : value;
+  do {
+    digits[count++] = static_cast<char>('0' + rest % 10);
+    rest /= 10;
+  } while (rest != 0);
+  int length = 0;
+  if (value < 0) text[length++] = '-';
+  while (length + count < width) text[length++] = '0';
+  while (count > 0) text[length++] = digits[--count];
+  text[length] = 0;
+  return length;
+}
+
+// Walks `format` as `ExpandFormatFields` does: `literal(c)` for each
+// character that stands as it is (the `%` of `%%` included), `field(code,
+// next)` for any other character after `%`, `next` being the position after
+// it. Stops with false as soon as either returns false; else true.
+template <typename Literal, typename Field>
+bool WalkFormat(CZEL_String const& format, Literal&& literal, Field&& field) {
+  char const* const text = format.GetStringC();
+  u32 const length = format.GetLength();
+  for (u32 pos = 0; pos < length; ++pos) {
+    if (text[pos] != '%') {
+      if (!literal(text[pos])) return false;
+    } else if (++pos == length) {
+      break;
+    } else if (text[pos] == '%') {
+      if (!literal('%')) return false;
+    } else if (!field(text[pos], pos + 1)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+// Whether the `count` bytes of `part` stand in `text` (`length` bytes) at
+// `pos`; if so, `pos` moves past them. A loop rather than memcmp: the parts
+// are a few bytes long.
+inline bool SameBytesAt(char const* text, u32 length, u32& pos, char const* part, u32 count) {
+  if (length - pos < count) return false;
+  for (u32 i = 0; i < count; ++i) {
+    if (text[pos + i] != part[i]) return false;
+  }
+  pos += count;
+  return true;
+}
+
+// 1 if `ExpandFormatFields(format, expand)` gives `text` exactly, else 0;
+// the same walk, compared as it goes instead of written.
+template <typename Expand>
+u8 FormatWrites(CZEL_String const& format, Expand&& expand, CZEL_String const& text) {
+  char const* const bytes = text.GetStringC();
+  u32 const length = text.GetLength();
+  u32 pos = 0;
+  char last[kFieldTextSize];
+  u32 lastLength = 0;
+  bool const same = WalkFormat(
+      format,
+      [&](char c) {
+        if (pos == length || bytes[pos] != c) return false;
+        ++pos;
+        return true;
+      },
+      [&](char code, u32 /*next*/) {
+        int const fieldLength = expand(code, last);
+        if (fieldLength >= 0) lastLength = static_cast<u32>(fieldLength);
+        return SameBytesAt(bytes, length, pos, last, lastLength);
+      });
+  return same && pos == length ? 1 : 0;
+}
+
 // The parts read by `ReadFormatFields`: at most eight, indexed by `part`.
 constexpr u32 kMaxFormatParts = 8;
 
 struct t_FormatValues {
   i64 values[kMaxFormatParts];  // The last number read for each part.
-  u32 named;                    // Bit `part` set for each part the format names.
+  u32 named;                    // Bit `part` set for each part read.
 };
 
 // Reads `text` by `format` as `ToString` writes it: a character of the format
@@ -54,16 +132,14 @@ struct t_FormatValues {
 // text of the last number field once more (nothing before the first); a `%`
 // at the end reads nothing. Fills `read` for each field of `fields` and
 // returns 1 if the whole text is read so, else 0. The numbers are not
-// checked: the caller makes the value and compares its `ToString` with the
-// text, which also checks the signs, zeros and repeated fields.
+// checked: the caller makes the value and checks with `FormatWrites` that
+// it writes the text, which also checks the signs, zeros and repeated
+// fields.
 u8 ReadFormatFields(CZEL_String const& text, CZEL_String const& format, t_FormatFields fields,
                     t_FormatValues& read);
 
 // Bit `part` set for each part of `fields` that `format` names.
 u32 NamedFormatParts(CZEL_String const& format, t_FormatFields fields);
-
-// 1 if `a` and `b` hold the same bytes, zeros included.
-u8 SameText(CZEL_String const& a, CZEL_String const& b);
 
 }  // namespace ZEL
 
