@@ -155,55 +155,44 @@ bool DateExists(int year, int month, int day, Calendar calendar) {
   return day <= 28 || day <= DaysInMonth(month, year, calendar);
 }
 
-// The Gregorian conversions. Their divisions round toward minus infinity;
-// shifting the years (the days) by a whole number of 400-year eras first
-// makes every operand positive, so that plain division does the same. The
-// shift covers every year an int holds and every valid day number.
-constexpr i64 kShiftEras = 5368710;
+// The Gregorian conversions, in the form of Neri and Schneider ("Euclidean
+// affine functions and their application to calendar algorithms", 2022):
+// days are counted from 1 March of year 0 (1 BC), so that February ends the
+// year, and divisions by constants become multiplications and shifts. They
+// give the same dates as the Julian day formulas. Shifting the years (the
+// days) by a whole number of 400-year eras first makes every operand
+// positive; the shift covers every year an int holds and every valid day.
+constexpr i64 kShiftEras = 5368722;
 constexpr i64 kEraDays = 146097;
+constexpr i64 kMarchZeroDay = 1721120;  // 1 March of year 0, Gregorian.
 
 // The day number of a Gregorian date, `y1` being its year with the gap
 // closed.
 i64 GregorianDayNumber(i64 y1, int month, int day) {
-  int const a = month <= 2 ? 1 : 0;  // (14 - month) / 12 for a month of 1 to 12.
-  i64 const y = y1 + 4800 - a;
-  auto const m = static_cast<u32>(month + 12 * a - 3);
-  auto const shifted = static_cast<u64>(y + 400 * kShiftEras);
-  u64 const centuries = shifted / 100;
-  auto const leapDays = static_cast<i64>(shifted / 4 - centuries + centuries / 4);
-  return day + (153 * m + 2) / 5 + 365 * y + leapDays - 97 * kShiftEras - 32045;
+  u32 const early = month <= 2 ? 1 : 0;  // January and February count with the year before.
+  u64 const y = static_cast<u64>(y1 + 400 * kShiftEras) - early;
+  u32 const m = static_cast<u32>(month) + 12 * early;
+  u64 const centuries = y / 100;
+  u64 const yearDays = 1461 * y / 4 - centuries + centuries / 4;
+  u32 const monthDays = (979 * m - 2919) / 32;
+  return static_cast<i64>(yearDays + monthDays) + day - 1 + kMarchZeroDay - kEraDays * kShiftEras;
 }
-
-// The month from March (0 to 11) and the day of each day of a year that
-// begins on 1 March, as (5 * e + 2) / 153 and e - (153 * m + 2) / 5 + 1
-// give them, so that a reading needs one look-up instead of two divisions.
-struct SMarchYear {
-  u16 entries[366];
-};
-constexpr SMarchYear MakeMarchYear() {
-  SMarchYear year{};
-  for (u32 e = 0; e < 366; ++e) {
-    u32 const m = (5 * e + 2) / 153;
-    year.entries[e] = static_cast<u16>(m << 8 | (e - (153 * m + 2) / 5 + 1));
-  }
-  return year;
-}
-constexpr SMarchYear kMarchYear = MakeMarchYear();
 
 // Fills the day and month of `date` from the valid day number `j` and
-// returns the computed year.
+// returns the year with the gap closed.
 i64 ReadGregorian(i64 j, DateStruct& date) {
-  auto const a = static_cast<u64>(j + 32044 + kEraDays * kShiftEras);
-  u64 const b = (4 * a + 3) / kEraDays;  // Counts the shifted eras too.
-  auto const c = static_cast<u32>(a - kEraDays * b / 4);
-  u32 const d = (4 * c + 3) / 1461;
-  u32 const e = c - 1461 * d / 4;
-  auto const entry = kMarchYear.entries[e];
-  u32 const m = entry >> 8;
-  date.day = entry & 0xFF;
-  u32 const next = m >= 10 ? 1 : 0;  // m / 10: January and February end the year.
-  date.month = static_cast<int>(m + 3 - 12 * next);
-  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + next;
+  auto const n = static_cast<u64>(j - kMarchZeroDay + kEraDays * kShiftEras);
+  u64 const n1 = 4 * n + 3;
+  u64 const centuries = n1 / kEraDays;
+  u32 const dayOfCentury = static_cast<u32>(n1 % kEraDays) / 4;
+  u64 const p2 = u64{2939745} * (4 * dayOfCentury + 3);
+  auto const yearOfCentury = static_cast<u32>(p2 >> 32);
+  u32 const dayOfYear = static_cast<u32>(p2) / 2939745 / 4;  // From 1 March.
+  u32 const n3 = 2141 * dayOfYear + 197913;
+  u32 const early = dayOfYear >= 306 ? 1 : 0;  // January and February end the year.
+  date.month = static_cast<int>((n3 >> 16) - 12 * early);
+  date.day = static_cast<int>((n3 & 0xFFFF) / 2141 + 1);
+  return static_cast<i64>(100 * centuries + yearOfCentury + early) - 400 * kShiftEras;
 }
 
 // The day number of a date, or the null value if it doesn't exist.
