@@ -304,15 +304,15 @@ int ExpandDateField(char code, CZEL_Date::t_Date_Struct const& date, char* text)
   if (field == nullptr) return -1;
   switch (field->part) {
     case kPartDay:
-      return ZEL::WriteFieldNumber(date.day, field->width, text);
+      return ZEL::FormatFieldNumber(date.day, field->width, text);
     case kPartMonth:
-      return ZEL::WriteFieldNumber(date.month, field->width, text);
+      return ZEL::FormatFieldNumber(date.month, field->width, text);
     case kPartYear:
-      return ZEL::WriteFieldNumber(date.year, field->width, text);
+      return ZEL::FormatFieldNumber(date.year, field->width, text);
     default: {  // kPartYearEnd
       i64 const magnitude = date.year < 0 ? -i64{date.year} : date.year;
-      return ZEL::WriteFieldNumber(static_cast<int>(magnitude % 100), magnitude >= 10 ? 2 : 0,
-                                   text);
+      return ZEL::FormatFieldNumber(static_cast<int>(magnitude % 100), magnitude >= 10 ? 2 : 0,
+                                    text);
     }
   }
 }

@@ -15,6 +15,7 @@
 //   CZEL_Date(2021, 1, 31).AddMonths(1).GetDay();         // 28, clamped
 //   CZEL_Date(-1, 12, 31).AddDays(1).GetYear();           // 1: no year 0
 //   d.GetWeekday(CZEL_Date::Calendar_Gregorian);          // 5, a Friday
+//   d.Parse("-44-3-15", "%Y-%m-%d");                      // 0: 15 March 44 BC
 //
 // Valid and null
 //

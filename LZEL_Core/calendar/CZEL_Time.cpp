@@ -30,7 +30,7 @@ int ExpandTimeField(char code, CZEL_Time::t_Date_Struct const& time, char* text)
   ZEL::t_FormatField const* const field = kTimeFields.Find(code);
   if (field == nullptr) return -1;
   int const parts[] = {time.hour, time.minute, time.second, time.millisecond};
-  return ZEL::WriteFieldNumber(parts[field->part], field->width, text);
+  return ZEL::FormatFieldNumber(parts[field->part], field->width, text);
 }
 
 }  // namespace

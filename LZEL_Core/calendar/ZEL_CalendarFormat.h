@@ -38,25 +38,6 @@ struct t_FormatFields {
   t_FormatField const* Find(char code) const;
 };
 
-// Writes `value` in decimal into `text` (kFieldTextSize bytes), with zeros
-// after the sign up to `width` characters, as "%0*d" does, and returns the
-// length. Without the C library's formatting, for speed.
-inline int WriteFieldNumber(int value, int width, char* text) {
-  char digits[kFieldTextSize];
-  int count = 0;
-  long long rest = value < 0 ? -static_cast<long long>(value) : value;
-  do {
-    digits[count++] = static_cast<char>('0' + rest % 10);
-    rest /= 10;
-  } while (rest != 0);
-  int length = 0;
-  if (value < 0) text[length++] = '-';
-  while (length + count < width) text[length++] = '0';
-  while (count > 0) text[length++] = digits[--count];
-  text[length] = 0;
-  return length;
-}
-
 // Walks `format` as `ExpandFormatFields` does: `literal(c)` for each
 // character that stands as it is (the `%` of `%%` included), `field(code,
 // next)` for any other character after `%`, `next` being the position after
