@@ -3,13 +3,17 @@
 // the same Gregorian round trip of Howard Hinnant's date library (`date::
 // sys_days` stepped on, read as `date::year_month_day` and turned back)
 // beside them. Each iteration walks a block of consecutive days from
-// 1 January 1900 on.
+// 1 January 1900 on. Then the text forms: writing, and reading beside
+// Hinnant's parse.
 
 #include <LZEL_Core/calendar/CZEL_Date.h>
 #include <LZEL_Core/calendar/CZEL_Time.h>
 
 #include <benchmark/benchmark.h>
 #include <date/date.h>
+
+#include <sstream>
+#include <string>
 
 namespace {
 
@@ -82,5 +86,29 @@ void BM_TimeToString(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_TimeToString);
+
+// Reading a date from text, beside Hinnant's `date::parse` from a string
+// stream, which is how an application would read one with that library.
+void BM_DateParse(benchmark::State& state) {
+  CZEL_String const text("05.03.2021");
+  CZEL_String const format("%D.%M.%Y");
+  CZEL_Date d;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(d.Parse(text, format));
+    benchmark::DoNotOptimize(d);
+  }
+}
+BENCHMARK(BM_DateParse);
+
+void BM_HinnantDateParse(benchmark::State& state) {
+  std::string const text("05.03.2021");
+  date::year_month_day ymd{};
+  for (auto _ : state) {
+    std::istringstream in(text);
+    in >> date::parse("%d.%m.%Y", ymd);
+    benchmark::DoNotOptimize(ymd);
+  }
+}
+BENCHMARK(BM_HinnantDateParse);
 
 }  // namespace

@@ -263,7 +263,9 @@ void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
       i64 const rest = since * kPersianCycleYears / kPersianCycleDays;
       year = rest + kPersianCycleYears * cycle + 475;
       i64 dayOfYear = j - PersianYearStart(rest, cycle) + 1;
-      if (dayOfYear > DaysInYear(Low32(year > 0 ? year : year - 1), calendar)) {
+      // Every year has 365 days at least, so only a later day needs the
+      // leap-year rule.
+      if (dayOfYear > 365 && dayOfYear > DaysInYear(Low32(year > 0 ? year : year - 1), calendar)) {
         ++year;
         dayOfYear = 1;
       }
