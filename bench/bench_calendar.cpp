@@ -1,8 +1,10 @@
-// Date conversions per second: a Julian day number read as year, month and
-// day and turned back into a day number, for each calendar of CZEL_Date, and
-// the Gregorian round trip of Howard Hinnant's date library (`date::
-// year_month_day` from `date::sys_days` and back) beside them. Each
-// iteration converts a block of consecutive days from 1 January 1900 on.
+// Date conversions per second: a date stepped on by one day, read as year,
+// month and day and set again from them, for each calendar of CZEL_Date, and
+// the same Gregorian round trip of Howard Hinnant's date library (`date::
+// sys_days` stepped on, read as `date::year_month_day` and turned back)
+// beside them. Each iteration walks a block of consecutive days from
+// 1 January 1900 on. Then the text forms: writing, and reading beside
+// Hinnant's parse.
 
 #include <LZEL_Core/calendar/CZEL_Date.h>
 #include <LZEL_Core/calendar/CZEL_Time.h>
@@ -10,34 +12,28 @@
 #include <benchmark/benchmark.h>
 #include <date/date.h>
 
+#include <sstream>
+#include <string>
+
 namespace {
 
 using ZEL::i64;
 
-constexpr i64 kFirstDay = 2415021;  // 1 January 1900, Gregorian.
-constexpr i64 kBlock = 4096;
-constexpr i64 kUnixEpochDay = 2440588;
-
-// A date whose day number the benchmark sets and reads directly, so that
-// only the conversions are timed.
-class DateAccess : public CZEL_Date {
- public:
-  void SetDay(i64 day) { m_JulianDay = day; }
-  i64 Day() const { return m_JulianDay; }
-};
+constexpr int kBlock = 4096;
 
 void BM_ZelRoundTrip(benchmark::State& state) {
   auto const calendar = static_cast<CZEL_Date::t_Calendar>(state.range(0));
-  DateAccess date;
-  DateAccess back;
+  CZEL_Date const first(1900, 1, 1);
+  CZEL_Date back;
   i64 changed = 0;
   for (auto _ : state) {
-    for (i64 day = kFirstDay; day < kFirstDay + kBlock; ++day) {
+    CZEL_Date date = first;
+    for (int i = 0; i < kBlock; ++i) {
+      date = date.AddDays(1);
       CZEL_Date::t_Date_Struct s{};
-      date.SetDay(day);
       date.GetDateStruct(s, calendar);
       back.Set(s.year, s.month, s.day, calendar);
-      changed += back.Day() != day ? 1 : 0;
+      changed += back != date ? 1 : 0;
     }
     benchmark::DoNotOptimize(changed);
   }
@@ -53,13 +49,15 @@ BENCHMARK(BM_ZelRoundTrip)
     ->Arg(CZEL_Date::Calendar_Islamic);
 
 void BM_HinnantGregorianRoundTrip(benchmark::State& state) {
+  date::sys_days const first{date::year{1900} / 1 / 1};
   i64 changed = 0;
   for (auto _ : state) {
-    for (i64 day = kFirstDay; day < kFirstDay + kBlock; ++day) {
-      date::sys_days const since{date::days{static_cast<int>(day - kUnixEpochDay)}};
-      date::year_month_day const ymd{since};
+    date::sys_days day = first;
+    for (int i = 0; i < kBlock; ++i) {
+      day += date::days{1};
+      date::year_month_day const ymd{day};
       benchmark::DoNotOptimize(ymd);
-      changed += date::sys_days{ymd}.time_since_epoch().count() + kUnixEpochDay != day ? 1 : 0;
+      changed += date::sys_days{ymd} != day ? 1 : 0;
     }
     benchmark::DoNotOptimize(changed);
   }
@@ -88,5 +86,29 @@ void BM_TimeToString(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_TimeToString);
+
+// Reading a date from text, beside Hinnant's `date::parse` from a string
+// stream, which is how an application would read one with that library.
+void BM_DateParse(benchmark::State& state) {
+  CZEL_String const text("05.03.2021");
+  CZEL_String const format("%D.%M.%Y");
+  CZEL_Date d;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(d.Parse(text, format));
+    benchmark::DoNotOptimize(d);
+  }
+}
+BENCHMARK(BM_DateParse);
+
+void BM_HinnantDateParse(benchmark::State& state) {
+  std::string const text("05.03.2021");
+  date::year_month_day ymd{};
+  for (auto _ : state) {
+    std::istringstream in(text);
+    in >> date::parse("%d.%m.%Y", ymd);
+    benchmark::DoNotOptimize(ymd);
+  }
+}
+BENCHMARK(BM_HinnantDateParse);
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include <LZEL_Core/calendar/CZEL_Date.h>
 
+#include <LZEL_Core/calendar/ZEL_CalendarFormat.h>
 #include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
 #include <algorithm>
 #include <climits>
 #include <cstdint>
-#include <cstdio>
-#include <cstring>
 
 using ZEL::i64;
 using ZEL::u16;
@@ -156,55 +155,44 @@ bool DateExists(int year, int month, int day, Calendar calendar) {
   return day <= 28 || day <= DaysInMonth(month, year, calendar);
 }
 
-// The Gregorian conversions. Their divisions round toward minus infinity;
-// shifting the years (the days) by a whole number of 400-year eras first
-// makes every operand positive, so that plain division does the same. The
-// shift covers every year an int holds and every valid day number.
-constexpr i64 kShiftEras = 5368710;
+// The Gregorian conversions, in the form of Neri and Schneider ("Euclidean
+// affine functions and their application to calendar algorithms", 2022):
+// days are counted from 1 March of year 0 (1 BC), so that February ends the
+// year, and divisions by constants become multiplications and shifts. They
+// give the same dates as the Julian day formulas. Shifting the years (the
+// days) by a whole number of 400-year eras first makes every operand
+// positive; the shift covers every year an int holds and every valid day.
+constexpr i64 kShiftEras = 5368722;
 constexpr i64 kEraDays = 146097;
+constexpr i64 kMarchZeroDay = 1721120;  // 1 March of year 0, Gregorian.
 
 // The day number of a Gregorian date, `y1` being its year with the gap
 // closed.
 i64 GregorianDayNumber(i64 y1, int month, int day) {
-  int const a = month <= 2 ? 1 : 0;  // (14 - month) / 12 for a month of 1 to 12.
-  i64 const y = y1 + 4800 - a;
-  auto const m = static_cast<u32>(month + 12 * a - 3);
-  auto const shifted = static_cast<u64>(y + 400 * kShiftEras);
-  u64 const centuries = shifted / 100;
-  auto const leapDays = static_cast<i64>(shifted / 4 - centuries + centuries / 4);
-  return day + (153 * m + 2) / 5 + 365 * y + leapDays - 97 * kShiftEras - 32045;
+  u32 const early = month <= 2 ? 1 : 0;  // January and February count with the year before.
+  u64 const y = static_cast<u64>(y1 + 400 * kShiftEras) - early;
+  u32 const m = static_cast<u32>(month) + 12 * early;
+  u64 const centuries = y / 100;
+  u64 const yearDays = 1461 * y / 4 - centuries + centuries / 4;
+  u32 const monthDays = (979 * m - 2919) / 32;
+  return static_cast<i64>(yearDays + monthDays) + day - 1 + kMarchZeroDay - kEraDays * kShiftEras;
 }
-
-// The month from March (0 to 11) and the day of each day of a year that
-// begins on 1 March, as (5 * e + 2) / 153 and e - (153 * m + 2) / 5 + 1
-// give them, so that a reading needs one look-up instead of two divisions.
-struct SMarchYear {
-  u16 entries[366];
-};
-constexpr SMarchYear MakeMarchYear() {
-  SMarchYear year{};
-  for (u32 e = 0; e < 366; ++e) {
-    u32 const m = (5 * e + 2) / 153;
-    year.entries[e] = static_cast<u16>(m << 8 | (e - (153 * m + 2) / 5 + 1));
-  }
-  return year;
-}
-constexpr SMarchYear kMarchYear = MakeMarchYear();
 
 // Fills the day and month of `date` from the valid day number `j` and
-// returns the computed year.
+// returns the year with the gap closed.
 i64 ReadGregorian(i64 j, DateStruct& date) {
-  auto const a = static_cast<u64>(j + 32044 + kEraDays * kShiftEras);
-  u64 const b = (4 * a + 3) / kEraDays;  // Counts the shifted eras too.
-  auto const c = static_cast<u32>(a - kEraDays * b / 4);
-  u32 const d = (4 * c + 3) / 1461;
-  u32 const e = c - 1461 * d / 4;
-  auto const entry = kMarchYear.entries[e];
-  u32 const m = entry >> 8;
-  date.day = entry & 0xFF;
-  u32 const next = m >= 10 ? 1 : 0;  // m / 10: January and February end the year.
-  date.month = static_cast<int>(m + 3 - 12 * next);
-  return 100 * (static_cast<i64>(b) - 4 * kShiftEras) + d - 4800 + next;
+  auto const n = static_cast<u64>(j - kMarchZeroDay + kEraDays * kShiftEras);
+  u64 const n1 = 4 * n + 3;
+  u64 const centuries = n1 / kEraDays;
+  u32 const dayOfCentury = static_cast<u32>(n1 % kEraDays) / 4;
+  u64 const p2 = u64{2939745} * (4 * dayOfCentury + 3);
+  auto const yearOfCentury = static_cast<u32>(p2 >> 32);
+  u32 const dayOfYear = static_cast<u32>(p2) / 2939745 / 4;  // From 1 March.
+  u32 const n3 = 2141 * dayOfYear + 197913;
+  u32 const early = dayOfYear >= 306 ? 1 : 0;  // January and February end the year.
+  date.month = static_cast<int>((n3 >> 16) - 12 * early);
+  date.day = static_cast<int>((n3 & 0xFFFF) / 2141 + 1);
+  return static_cast<i64>(100 * centuries + yearOfCentury + early) - 400 * kShiftEras;
 }
 
 // The day number of a date, or the null value if it doesn't exist.
@@ -275,7 +263,9 @@ void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
       i64 const rest = since * kPersianCycleYears / kPersianCycleDays;
       year = rest + kPersianCycleYears * cycle + 475;
       i64 dayOfYear = j - PersianYearStart(rest, cycle) + 1;
-      if (dayOfYear > DaysInYear(Low32(year > 0 ? year : year - 1), calendar)) {
+      // Every year has 365 days at least, so only a later day needs the
+      // leap-year rule.
+      if (dayOfYear > 365 && dayOfYear > DaysInYear(Low32(year > 0 ? year : year - 1), calendar)) {
         ++year;
         dayOfYear = 1;
       }
@@ -298,28 +288,34 @@ void ReadDayNumber(i64 j, Calendar calendar, DateStruct& date) {
   date.year = StoredYear(year);
 }
 
+// The number fields of the format strings, read by `ToString` and `Parse`
+// alike. %y shows the last two digits of the year without its sign, with no
+// padding for a one-digit year, so it is written apart from the table's
+// widths; it names no part that `Parse` sets.
+enum : u8 { kPartDay, kPartMonth, kPartYear, kPartYearEnd };
+constexpr u32 kDayMonthYear = 1u << kPartDay | 1u << kPartMonth | 1u << kPartYear;
+constexpr ZEL::t_FormatField kDateFieldTable[] = {
+    {'d', kPartDay, 0, 2, 0},   {'D', kPartDay, 2, 2, 0},   {'m', kPartMonth, 0, 2, 0},
+    {'M', kPartMonth, 2, 2, 0}, {'Y', kPartYear, 0, 10, 1}, {'y', kPartYearEnd, 0, 2, 0}};
+constexpr ZEL::t_FormatFields kDateFields{kDateFieldTable, 6};
+
 // The text of a `ToString` field of `date`, or -1 for a character that
-// names none. %D and %M pad with zeros to two digits; %y keeps the last two
-// digits of the year without its sign.
-int ExpandDateField(char field, CZEL_Date::t_Date_Struct const& date, char* text) {
-  switch (field) {
-    case 'd':
-    case 'D':
-      return ZEL::FormatFieldNumber(date.day, field == 'D' ? 2 : 0, text);
-    case 'm':
-    case 'M':
-      return ZEL::FormatFieldNumber(date.month, field == 'M' ? 2 : 0, text);
-    case 'Y':
-      return ZEL::FormatFieldNumber(date.year, 0, text);
-    case 'y': {
-      long long const magnitude = date.year < 0 ? -static_cast<long long>(date.year) : date.year;
-      int const length = std::snprintf(text, ZEL::kFieldTextSize, "%lld", magnitude);
-      if (length <= 2) return length;
-      std::memmove(text, text + length - 2, 3);
-      return 2;
+// names none.
+int ExpandDateField(char code, CZEL_Date::t_Date_Struct const& date, char* text) {
+  ZEL::t_FormatField const* const field = kDateFields.Find(code);
+  if (field == nullptr) return -1;
+  switch (field->part) {
+    case kPartDay:
+      return ZEL::FormatFieldNumber(date.day, field->width, text);
+    case kPartMonth:
+      return ZEL::FormatFieldNumber(date.month, field->width, text);
+    case kPartYear:
+      return ZEL::FormatFieldNumber(date.year, field->width, text);
+    default: {  // kPartYearEnd
+      i64 const magnitude = date.year < 0 ? -i64{date.year} : date.year;
+      return ZEL::FormatFieldNumber(static_cast<int>(magnitude % 100), magnitude >= 10 ? 2 : 0,
+                                    text);
     }
-    default:
-      return -1;
   }
 }
 
@@ -426,6 +422,31 @@ CZEL_String CZEL_Date::ToString(CZEL_String const& format, t_Calendar calendar) 
   (void)GetDateStruct(date, calendar);
   return ZEL::ExpandFormatFields(
       format, [&date](char field, char* text) { return ExpandDateField(field, date, text); });
+}
+
+// The numbers are read first; the date they make must exist, and must write
+// the text back exactly as `ToString` would, which refuses what `ToString` never writes (a `+`,
+// zeros in front, "-0", a %y or a repeated field that disagrees).
+u32 CZEL_Date::Parse(CZEL_String const& text, CZEL_String const& format, t_Calendar calendar) {
+  if (!IsKnown(calendar)) return ZEL_ERR_INVALID_ARGUMENT;
+  ZEL::t_FormatValues read{};
+  u8 const matched = ZEL::ReadFormatFields(text, format, kDateFields, read);
+  if ((read.named & kDayMonthYear) != kDayMonthYear &&
+      (ZEL::NamedFormatParts(format, kDateFields) & kDayMonthYear) != kDayMonthYear) {
+    return ZEL_ERR_NOT_SUPPORTED;
+  }
+  if (!matched) return ZEL_ERR_BAD_FORMAT;
+  i64 const year = read.values[kPartYear];
+  if (year < INT_MIN || year > INT_MAX) return ZEL_ERR_BAD_FORMAT;
+  i64 const day = DayNumber(static_cast<int>(year), static_cast<int>(read.values[kPartMonth]),
+                            static_cast<int>(read.values[kPartDay]), calendar);
+  if (!InValidRange(day)) return ZEL_ERR_INVALID_ARGUMENT;
+  t_Date_Struct date{};
+  ReadDayNumber(day, calendar, date);
+  auto const expand = [&date](char field, char* out) { return ExpandDateField(field, date, out); };
+  if (!ZEL::FormatWrites(format, expand, text)) return ZEL_ERR_BAD_FORMAT;
+  m_JulianDay = day;
+  return ZEL_ERR_NONE;
 }
 
 // -----------------------------------------------------------------------------

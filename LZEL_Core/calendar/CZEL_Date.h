@@ -15,6 +15,7 @@
 //   CZEL_Date(2021, 1, 31).AddMonths(1).GetDay();         // 28, clamped
 //   CZEL_Date(-1, 12, 31).AddDays(1).GetYear();           // 1: no year 0
 //   d.GetWeekday(CZEL_Date::Calendar_Gregorian);          // 5, a Friday
+//   d.Parse("-44-3-15", "%Y-%m-%d");                      // 0: 15 March 44 BC
 //
 // Valid and null
 //
@@ -150,6 +151,33 @@ class ZEL_API CZEL_Date : public CZEL_Object {
   // format gives nothing. A null date or an unknown calendar reads as day 0,
   // month 0, year 0: "%D.%M.%Y" gives "00.00.0".
   CZEL_String ToString(CZEL_String const& format, t_Calendar calendar = Calendar_Gregorian) const;
+
+  // Reads `text` as `ToString(format, calendar)` writes it and, on success,
+  // makes this date the one read and returns ZEL_ERR_NONE. The text must
+  // match the whole format: each character of `format` other than a field
+  // stands as it is; %d and %m read one or two digits, %D and %M exactly two,
+  // %Y an optional `-` and up to ten digits, %y one or two digits that must
+  // agree with the year, `%%` a `%`, and any other field the text of the
+  // last number field once more. A number field without padding reads as
+  // many digits as follow, leaving to the padded fields right after it the
+  // digits they take ("%Y%M%D" reads "20210305"), and "%d%m" reads "112" as
+  // 11 February. The date read must then give back `text` exactly, so
+  // nothing that `ToString` doesn't write is accepted: no `+`, no zeros in
+  // front of %d, %m or %Y, no repeated field that disagrees; and a Julian
+  // year beyond the 16-bit cut isn't read. On failure the date is left as it
+  // was, and the result is ZEL_ERR_INVALID_ARGUMENT for an unknown calendar
+  // or a date that doesn't exist in it (year 0, 30 February) or lies outside
+  // the valid range, ZEL_ERR_NOT_SUPPORTED for a format without a day, a
+  // month and a year field (%y alone names no year), and ZEL_ERR_BAD_FORMAT
+  // for a text that doesn't match the format. Never throws.
+  //
+  //   CZEL_Date d;
+  //   d.Parse("05.03.2021", "%D.%M.%Y");     // ZEL_ERR_NONE: 5 March 2021
+  //   d.Parse("-44-3-15", "%Y-%m-%d");       // ZEL_ERR_NONE: 15 March 44 BC
+  //   d.Parse("5.3.2021", "%D.%M.%Y");       // ZEL_ERR_BAD_FORMAT, d as it was
+  //   d.Parse("30.02.2021", "%D.%M.%Y");     // ZEL_ERR_INVALID_ARGUMENT
+  ZEL::u32 Parse(CZEL_String const& text, CZEL_String const& format,
+                 t_Calendar calendar = Calendar_Gregorian);
 
   // ---------------------------------------------------------------------------
   // Calendar rules

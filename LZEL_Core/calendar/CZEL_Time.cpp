@@ -1,5 +1,6 @@
 #include <LZEL_Core/calendar/CZEL_Time.h>
 
+#include <LZEL_Core/calendar/ZEL_CalendarFormat.h>
 #include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
 
@@ -13,33 +14,23 @@ namespace {
 constexpr int kNullTime = -1;
 constexpr int kMsecsPerDay = 86400000;
 
+// The number fields of the format strings, read by `ToString` and `Parse`
+// alike: the upper-case letter of a field pads with zeros, to three digits
+// for the millisecond and to two for the others.
+enum : u8 { kPartHour, kPartMinute, kPartSecond, kPartMillisecond };
+constexpr ZEL::t_FormatField kTimeFieldTable[] = {
+    {'h', kPartHour, 0, 2, 0},        {'H', kPartHour, 2, 2, 0},       {'t', kPartMinute, 0, 2, 0},
+    {'T', kPartMinute, 2, 2, 0},      {'s', kPartSecond, 0, 2, 0},     {'S', kPartSecond, 2, 2, 0},
+    {'x', kPartMillisecond, 0, 3, 0}, {'X', kPartMillisecond, 3, 3, 0}};
+constexpr ZEL::t_FormatFields kTimeFields{kTimeFieldTable, 8};
+
 // The text of a `ToString` field of `time`, or -1 for a character that
-// names none. The upper-case letter of a field pads with zeros: to three
-// digits for the millisecond, to two for the others.
-int ExpandTimeField(char field, CZEL_Time::t_Date_Struct const& time, char* text) {
-  int value = 0;
-  switch (field) {
-    case 'h':
-    case 'H':
-      value = time.hour;
-      break;
-    case 't':
-    case 'T':
-      value = time.minute;
-      break;
-    case 's':
-    case 'S':
-      value = time.second;
-      break;
-    case 'x':
-    case 'X':
-      value = time.millisecond;
-      break;
-    default:
-      return -1;
-  }
-  int const width = field == 'X' ? 3 : field >= 'A' && field <= 'Z' ? 2 : 0;
-  return ZEL::FormatFieldNumber(value, width, text);
+// names none.
+int ExpandTimeField(char code, CZEL_Time::t_Date_Struct const& time, char* text) {
+  ZEL::t_FormatField const* const field = kTimeFields.Find(code);
+  if (field == nullptr) return -1;
+  int const parts[] = {time.hour, time.minute, time.second, time.millisecond};
+  return ZEL::FormatFieldNumber(parts[field->part], field->width, text);
 }
 
 }  // namespace
@@ -120,6 +111,25 @@ CZEL_String CZEL_Time::ToString(CZEL_String const& format) const {
   (void)GetTimeStruct(time);
   return ZEL::ExpandFormatFields(
       format, [&time](char field, char* text) { return ExpandTimeField(field, time, text); });
+}
+
+// The numbers are read first, the parts the format doesn't name being 0;
+// the time they make must exist, and must write the text back exactly as
+// `ToString` would.
+u32 CZEL_Time::Parse(CZEL_String const& text, CZEL_String const& format) {
+  ZEL::t_FormatValues read{};
+  if (!ZEL::ReadFormatFields(text, format, kTimeFields, read)) return ZEL_ERR_BAD_FORMAT;
+  auto part = [&read](u8 index) { return static_cast<int>(read.values[index]); };
+  CZEL_Time parsed;
+  if (!parsed.Set(part(kPartHour), part(kPartMinute), part(kPartSecond), part(kPartMillisecond))) {
+    return ZEL_ERR_INVALID_ARGUMENT;
+  }
+  t_Date_Struct time{};
+  (void)parsed.GetTimeStruct(time);
+  auto const expand = [&time](char field, char* out) { return ExpandTimeField(field, time, out); };
+  if (!ZEL::FormatWrites(format, expand, text)) return ZEL_ERR_BAD_FORMAT;
+  m_Msecs = parsed.m_Msecs;
+  return ZEL_ERR_NONE;
 }
 
 // -----------------------------------------------------------------------------

@@ -110,6 +110,28 @@ class ZEL_API CZEL_Time : public CZEL_Object {
   // format gives nothing. A null time reads as 00:00:00.000.
   CZEL_String ToString(CZEL_String const& format) const;
 
+  // Reads `text` as `ToString(format)` writes it and, on success, makes this
+  // time the one read and returns ZEL_ERR_NONE. The text must match the
+  // whole format: each character of `format` other than a field stands as it
+  // is; %h, %t and %s read one or two digits, %H, %T and %S exactly two, %x
+  // one to three and %X exactly three, `%%` a `%`, and any other field the
+  // text of the last number field once more. A number field without padding
+  // reads as many digits as follow, leaving to the padded fields right after
+  // it the digits they take ("%h%T" reads "905" as 9:05). The parts that
+  // the format doesn't name are 0: "%H:%T" reads "09:05" as 09:05:00.000.
+  // The time read must then give back `text` exactly, so nothing that
+  // `ToString` doesn't write is accepted (no zeros in front of %h, no `+`,
+  // no repeated field that disagrees). On failure the time is left as it
+  // was, and the result is ZEL_ERR_INVALID_ARGUMENT for parts out of range
+  // (hour 24, minute or second 60) and ZEL_ERR_BAD_FORMAT for a text that
+  // doesn't match the format. Never throws.
+  //
+  //   CZEL_Time t;
+  //   t.Parse("09:05:03.007", "%H:%T:%S.%X");  // ZEL_ERR_NONE
+  //   t.Parse("9:05", "%H:%T");                // ZEL_ERR_BAD_FORMAT, t as it was
+  //   t.Parse("24:00", "%H:%T");               // ZEL_ERR_INVALID_ARGUMENT
+  ZEL::u32 Parse(CZEL_String const& text, CZEL_String const& format);
+
   // ---------------------------------------------------------------------------
   // Arithmetic
   // ---------------------------------------------------------------------------

@@ -38,8 +38,22 @@ constexpr int kFieldTextSize = 24;
 
 // Writes `value` in decimal into `text` (kFieldTextSize bytes), with zeros
 // in front up to `width` digits as "%0*d" gives them, and returns the length.
+// Written by hand rather than by snprintf, since `Parse` writes every field
+// it reads once more to check it.
 inline int FormatFieldNumber(int value, int width, char* text) {
-  return std::snprintf(text, kFieldTextSize, "%0*d", width, value);
+  char digits[kFieldTextSize];
+  int count = 0;
+  long long rest = value < 0 ? -static_cast<long long>(value) : value;
+  do {
+    digits[count++] = static_cast<char>('0' + rest % 10);
+    rest /= 10;
+  } while (rest != 0);
+  int length = 0;
+  if (value < 0) text[length++] = '-';
+  while (length + count < width) text[length++] = '0';
+  while (count > 0) text[length++] = digits[--count];
+  text[length] = 0;
+  return length;
 }
 
 // `format` with its `%` fields expanded. `expand(field, text)` writes the

@@ -12,6 +12,7 @@
 
 #include <climits>
 #include <cmath>
+#include <initializer_list>
 #include <string>
 #include <tuple>
 
@@ -86,16 +87,20 @@ TEST(DateTest, OneDayInEveryCalendar) {
 
 // Every day of the years -5000 to 5000 of each calendar, in order: each day
 // number reads as the day after the one before by the month lengths, and
-// converts back to itself. Persian days also read as the definition does.
+// converts back to itself, also through its text. Persian days also read as
+// the definition does.
 TEST(DateTest, RoundTripThroughTenThousandYears) {
+  CZEL_String const format("%Y-%m-%D %y");
   for (Cal c : {kG, kJ, kRJ, kP, kI}) {
     i64 day = Probe::DateToJulianDay(-5000, 1, 1, c);
     int y = -5000, m = 1, d = 1, failures = 0;
     for (; y <= 5000 && failures < 5; ++day) {
       Ymd const expected{y, m, d};
-      bool const ok = Read(FromDay(day), c) == expected &&
-                      Probe::DateToJulianDay(y, m, d, c) == day &&
-                      (c != kP || PersianByDefinition(day) == expected);
+      D parsed;
+      bool const ok =
+          Read(FromDay(day), c) == expected && Probe::DateToJulianDay(y, m, d, c) == day &&
+          (c != kP || PersianByDefinition(day) == expected) &&
+          parsed.Parse(FromDay(day).ToString(format, c), format, c) == 0 && DayOf(parsed) == day;
       if (!ok) ADD_FAILURE() << "calendar " << c << ", day " << day << " (" << ++failures << ")";
       if (++d > D::GetDaysPerMonth(m, y, c)) d = 1, ++m;
       if (m > 12) m = 1, y = y == -1 ? 1 : y + 1;
@@ -195,6 +200,45 @@ TEST(DateTest, ToString) {
   EXPECT_TRUE(D::GetCurrentDate().IsValid());
 }
 
+// Accepted texts give the date; refused ones (an unpadded day, trailing or
+// missing text, a sign or zero that ToString never writes, a %y or repeat
+// that disagrees, a Julian year past its 16-bit cut, a year 0, a day that
+// the calendar lacks) give their code and leave the date alone.
+TEST(DateTest, Parse) {
+  struct Row {
+    char const *text, *format;
+    Cal calendar;
+    Ymd date;
+  } const rows[] = {{"05.03.2021", "%D.%M.%Y", kG, {2021, 3, 5}},
+                    {"-44-3-15 44", "%Y-%m-%d %y", kG, {-44, 3, 15}},
+                    {"20210305", "%Y%M%D", kG, {2021, 3, 5}},
+                    {"1400/1/1%1", "%Y/%m/%d%%%q", kP, {1400, 1, 1}},
+                    {"1900-2-29", "%Y-%m-%d", kJ, {1900, 2, 29}}};
+  for (auto const& r : rows) {
+    D d;
+    EXPECT_EQ(d.Parse(r.text, r.format, r.calendar), 0u) << r.text;
+    EXPECT_EQ(Read(d, r.calendar), r.date) << r.text;
+  }
+  // Pairs of text and format, each refused with `code`, the date left alone.
+  auto refused = [](ZEL::u32 code, Cal c, std::initializer_list<char const*> pairs) {
+    for (auto p = pairs.begin(); p != pairs.end(); p += 2) {
+      D d(1999, 9, 9);
+      EXPECT_EQ(d.Parse(p[0], p[1], c), code) << p[0];
+      EXPECT_EQ(Read(d, kG), Ymd(1999, 9, 9)) << p[0];
+    }
+  };
+  refused(ZEL_ERR_BAD_FORMAT, kG,
+          {"5.3.2021", "%D.%M.%Y", "05.03.2021.", "%D.%M.%Y", "05.03.", "%D.%M.%Y", "5.3.+2021",
+           "%d.%m.%Y", "5.3.02021", "%d.%m.%Y", "5.3.2021 20", "%d.%m.%Y %y", "5.3.2021-6",
+           "%d.%m.%Y-%q", "1.1.9999999999", "%d.%m.%Y"});
+  refused(ZEL_ERR_BAD_FORMAT, kJ, {"1.1.40000", "%d.%m.%Y"});  // read back cut to 16 bits
+  refused(ZEL_ERR_INVALID_ARGUMENT, kG,
+          {"1.1.0", "%d.%m.%Y", "1.1.-0", "%d.%m.%Y", "29.2.1900", "%d.%m.%Y"});
+  refused(ZEL_ERR_INVALID_ARGUMENT, kI, {"30.12.1441", "%d.%m.%Y"});
+  refused(ZEL_ERR_INVALID_ARGUMENT, kUnknown, {"1.1.2021", "%d.%m.%Y"});
+  refused(ZEL_ERR_NOT_SUPPORTED, kG, {"1.1.21", "%d.%m.%y", "1.1", "%d.%m"});
+}
+
 using T = CZEL_Time;
 
 int MsecsOf(T const& t) { return T(0, 0, 0, 0).MillisecondsTo(t); }
@@ -245,6 +289,34 @@ TEST(TimeTest, DifferencesComparisonAndText) {
   EXPECT_EQ(text("%H:%T:%S.%X") + ' ' + text("%h:%t:%s.%x"), "09:05:03.007 9:5:3.7");
   EXPECT_EQ(text("%H%q") + ' ' + text("100%%") + ' ' + text("%q%h%"), "0909 100% 9");
   EXPECT_TRUE(T::GetCurrentTime().IsValid());
+}
+
+TEST(TimeTest, Parse) {
+  struct Row {
+    char const *text, *format;
+    ZEL::u32 code;
+    int msecs;
+  } const rows[] = {{"905", "%h%T", 0, 32700000},
+                    {"23h 23", "%hh %q", 0, 82800000},
+                    {"9:05", "%H:%T", ZEL_ERR_BAD_FORMAT, 3723004},
+                    {"09:05 ", "%H:%T", ZEL_ERR_BAD_FORMAT, 3723004},
+                    {"24:00", "%H:%T", ZEL_ERR_INVALID_ARGUMENT, 3723004}};
+  for (auto const& r : rows) {
+    T t(1, 2, 3, 4);
+    EXPECT_EQ(t.Parse(r.text, r.format), r.code) << r.text;
+    EXPECT_EQ(MsecsOf(t), r.msecs) << r.text;
+  }
+  // Every second of the day through its text, each with another of the
+  // 1000 milliseconds (the parts are read apart, so this covers every value
+  // of each).
+  char const* const format = "%H:%T:%S.%X %h:%t:%s.%x";
+  for (int s = 0, failures = 0; s < 86400 && failures < 5; ++s) {
+    T const time = T(0, 0, 0, 0).AddMilliseconds(s * 1000 + s * 337 % 1000);
+    T back;
+    if (back.Parse(time.ToString(format), format) != 0 || back != time) {
+      ADD_FAILURE() << Text(time.ToString(format)) << " (" << ++failures << ")";
+    }
+  }
 }
 
 }  // namespace
