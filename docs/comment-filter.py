@@ -15,7 +15,8 @@ and no Doxygen markup. This filter makes Doxygen see them:
     comment or access label (the overloads of one member, a run of
     operators, the day, month and year getters);
   * a comment above a conditional macro (#ifndef X ... #define X) describes
-    that macro;
+    that macro; one above an #include or a forward declaration stays a plain
+    comment;
   * a comment after a member or an enumerator, with the comment lines that
     continue it, describes that member or enumerator;
   * protected and private members and macros that have no comment are left
@@ -40,6 +41,8 @@ KIND = re.compile(r"\b(class|struct|union|namespace|enum)\b")
 ACCESS = re.compile(r"^\s*(public|protected|private)\s*:")
 DEFINE = re.compile(r"^\s*#\s*define\s+(\w+)")
 PREPROCESSOR = re.compile(r"^\s*#")
+INCLUDE = re.compile(r"^\s*#\s*include")
+FORWARD = re.compile(r"^\s*(class|struct)\s+\w+\s*;")  # a declaration made elsewhere
 CONDITIONAL = re.compile(r"^\s*#\s*if")
 HEADING = re.compile(r"^-{2,}\s*(.*?)\s*-{2,}$")  # --- Section ------
 MACRO_USE = re.compile(r"^\s*[A-Z][A-Z0-9_]*\(.*\)\s*$")  # a macro that declares members
@@ -128,6 +131,7 @@ class Filter:
         """Does a new declaration start on this line (at a documented scope)?"""
         return (self.at_scope() and self.pending.strip() == "" and line.strip() != ""
                 and not PREPROCESSOR.match(line) and not ACCESS.match(line)
+                and not FORWARD.match(line)
                 and not MACRO_USE.match(line)
                 and not line.strip().startswith("}"))
 
@@ -172,7 +176,8 @@ class Filter:
             self.out.extend(f"{ind}//{' ' if t else ''}{t}" for ind, t in block)
             return
         documented = (block and self.at_scope() and follows and self.seen_code
-                      and not self.defines_member(lines, i) and not self.private())
+                      and not self.defines_member(lines, i) and not self.private()
+                      and not FORWARD.match(next_line) and not INCLUDE.match(next_line))
         if documented and CONDITIONAL.match(next_line):
             # Above #ifndef X / #define X: the macro's own description.
             self.macro_doc = document(texts, indent)
@@ -255,7 +260,8 @@ class Filter:
             self.trailing_indent = len(line) - len(line.lstrip())
         self.emit_with_trailing(line)
         self.track(line)
-        if self.hidden is not None and len(self.scopes) == self.hidden and self.pending.strip() == "":
+        if self.hidden is not None and (len(self.scopes) < self.hidden or (
+                len(self.scopes) == self.hidden and self.pending.strip() == "")):
             self.out.append("/// \\endcond")
             self.hidden = None
 
@@ -335,6 +341,8 @@ class Filter:
             if line.strip():
                 self.seen_code = True
         self.flush(lines, len(lines))
+        if self.hidden is not None:
+            self.out.append("/// \\endcond")
         return "\n".join(self.out)
 
 
