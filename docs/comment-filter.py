@@ -276,7 +276,7 @@ class Filter:
         description."""
         m = TRAILING.match(line)
         code = strip_code(line).rstrip()
-        if (m and "//" not in strip_code(line) and self.at_scope() and not PREPROCESSOR.match(line)
+        if (m and not DIRECTIVE.match(m.group(3)) and self.at_scope() and not PREPROCESSOR.match(line)
                 and code and (code.endswith((";", ",")) or self.in_enum())
                 and not code.lstrip().startswith("}")):
             code_part = line[:len(line) - len(line.lstrip())] + line.strip()
