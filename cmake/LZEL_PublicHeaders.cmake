@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
-# The public headers are those the umbrella header LZEL_Core/LZEL_Core.h
-# reaches through its #include <LZEL_Core/...> lines, directly or not. A
+# The public headers are those the umbrella header LZEL_Core/LZEL_Core.h and
+# the opt-in standard-library bridge LZEL_Core/ZEL_Std.h
+# reach through their #include <LZEL_Core/...> lines, directly or not. A
 # header that only the library's own sources include (the CRC engine's fast
 # paths, the calendar's shared clock and format helpers) is internal: it is
 # neither installed nor documented, since what it declares isn't exported.
@@ -11,8 +12,8 @@ function(lzel_public_headers source_dir out_var)
   cmake_policy(PUSH)
   cmake_policy(SET CMP0057 NEW)  # if(IN_LIST), also when run by the install script
   set(root ${source_dir}/LZEL_Core)
-  set(seen LZEL_Core.h)
-  set(queue LZEL_Core.h)
+  set(seen LZEL_Core.h ZEL_Std.h)
+  set(queue LZEL_Core.h ZEL_Std.h)
   while(queue)
     list(POP_FRONT queue header)
     file(STRINGS ${root}/${header} includes REGEX "^[ \t]*#[ \t]*include[ \t]*<LZEL_Core/")

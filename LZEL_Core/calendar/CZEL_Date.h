@@ -66,9 +66,9 @@ class ZEL_API CZEL_Date : public CZEL_Object {
 
   // A date read in one calendar. Months run from 1 to 12.
   struct t_Date_Struct {
-    int day;
-    int month;
-    int year;
+    int day;    // 1 to the month's length
+    int month;  // 1 to 12
+    int year;   // never 0
   };
 
   // ---------------------------------------------------------------------------

@@ -36,10 +36,10 @@ class ZEL_API CZEL_Time : public CZEL_Object {
   // A time of day in its parts. (The name is shared with the date's struct;
   // this one is `CZEL_Time::t_Date_Struct`.)
   struct t_Date_Struct {
-    ZEL::u8 hour;
-    ZEL::u8 minute;
-    ZEL::u8 second;
-    ZEL::u16 millisecond;
+    ZEL::u8 hour;          // 0 to 23
+    ZEL::u8 minute;        // 0 to 59
+    ZEL::u8 second;        // 0 to 59
+    ZEL::u16 millisecond;  // 0 to 999
   };
 
   // ---------------------------------------------------------------------------

@@ -36,6 +36,7 @@ class ZEL_API CZEL_Exception {
   // Copies all three fields.
   CZEL_Exception(CZEL_Exception const& src);
 
+  // Copies all three fields.
   CZEL_Exception& operator=(CZEL_Exception const& src) = default;
 
   // Does nothing; the class's only virtual operation.

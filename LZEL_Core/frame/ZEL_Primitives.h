@@ -108,10 +108,10 @@ enum t_ZEL_NumberRepr : u32 {
 // A colour of the Windows bitmap palette. Each field holds 0 to 255, although
 // the fields are 16 bits wide.
 struct t_WinRgbQuad {
-  u16 red;
-  u16 green;
-  u16 blue;
-  u16 reserved;
+  u16 red;       // 0 to 255
+  u16 green;     // 0 to 255
+  u16 blue;      // 0 to 255
+  u16 reserved;  // the palette word's fourth byte
 };
 
 // --- Single bits and fields ---------------------------------------------------

@@ -31,6 +31,7 @@
 
 namespace ZEL {
 
+// The unsigned integers of 8, 16, 32 and 64 bits, and the signed one of 64.
 using u8 = std::uint8_t;
 using u16 = std::uint16_t;
 using u32 = std::uint32_t;

@@ -50,6 +50,7 @@ class ZEL_API CZEL_MemoryBuffer : public CZEL_Buffer {
   // under its own name. Moving copies, as copying does.
   class ZEL_API CBlockList : public CZEL_List<CZEL_Uint8Vector> {
    public:
+    // An empty chain; a copy of `src`'s blocks.
     CBlockList();
     CBlockList(CBlockList const& src);
     // Moving copies the blocks, which allocates, so it can throw.

@@ -86,6 +86,7 @@ class ZEL_API CZEL_Code : public CZEL_Object {
   // A list of template nodes.
   class ZEL_API CFormatList : public CZEL_List<CFormatNode> {
    public:
+    // An empty list; a copy of `src`'s nodes. Moving and assigning copy too.
     CFormatList();
     CFormatList(CFormatList const& src);
     // NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
@@ -97,6 +98,7 @@ class ZEL_API CZEL_Code : public CZEL_Object {
   // A vector of template nodes.
   class ZEL_API CFormatVector : public CZEL_Vector<CFormatNode> {
    public:
+    // An empty vector; a copy of `src`'s nodes. Moving and assigning copy too.
     CFormatVector();
     CFormatVector(CFormatVector const& src);
     // NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
