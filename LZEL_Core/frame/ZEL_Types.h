@@ -38,6 +38,19 @@
 #define ZEL_API
 #endif
 
+// ZEL_EXTERN_TEMPLATE(class CZEL_Vector<int>)
+//
+// Declares that the library holds the explicit instantiation, so that a
+// program links against it instead of compiling its own. A program that
+// imports the Windows DLL instantiates the templates itself instead: the DLL
+// doesn't export the templates' inline members, which the declaration would
+// leave to it.
+#if defined(_WIN32) && !defined(ZEL_STATIC) && !defined(LZEL_Core_EXPORTS)
+#define ZEL_EXTERN_TEMPLATE(...)
+#else
+#define ZEL_EXTERN_TEMPLATE(...) extern template __VA_ARGS__;
+#endif
+
 namespace ZEL {
 
 using u8 = std::uint8_t;

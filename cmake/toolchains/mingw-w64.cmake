@@ -11,11 +11,14 @@ set(CMAKE_C_COMPILER ${LZEL_MINGW_TRIPLET}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${LZEL_MINGW_TRIPLET}-g++-posix)
 set(CMAKE_RC_COMPILER ${LZEL_MINGW_TRIPLET}-windres)
 
-set(CMAKE_FIND_ROOT_PATH /usr/${LZEL_MINGW_TRIPLET})
+# Libraries and headers come from the mingw-w64 tree alone; packages also
+# from CMAKE_PREFIX_PATH, so that an application finds an installed
+# LZEL_Core with find_package.
+list(APPEND CMAKE_FIND_ROOT_PATH /usr/${LZEL_MINGW_TRIPLET})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 
 # Programs run under Wine, through the emulator: a script written into the
 # build folder, with a private Wine prefix there (unless WINEPREFIX is set)
@@ -41,5 +44,7 @@ if(LZEL_WINE)
     "export WINEPREFIX=\"\${WINEPREFIX:-${CMAKE_BINARY_DIR}/wine-prefix}\"\n"
     "export WINEPATH='${wine_path}'\"\${WINEPATH:+;\$WINEPATH}\"\n"
     "exec ${LZEL_WINE} \"\$@\"\n")
-  set(CMAKE_CROSSCOMPILING_EMULATOR sh ${LZEL_WINE_RUN})
+  file(CHMOD ${LZEL_WINE_RUN} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ
+    GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+  set(CMAKE_CROSSCOMPILING_EMULATOR ${LZEL_WINE_RUN})
 endif()
