@@ -15,15 +15,14 @@
 //  10. A CSV file written and read back.
 //  11. One pixel of a bitmap.
 //
-// The files of sections 8 to 11 go into a fresh directory under /tmp, which
-// the program removes again.
+// The files of sections 8 to 11 go into a fresh directory under the system's
+// temporary directory, which the program removes again.
 
 #include <LZEL_Core/LZEL_Core.h>
 
-#include <stdlib.h>
-#include <unistd.h>
-
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -273,9 +272,12 @@ void BitmapPixel() {
 }  // namespace
 
 int main() {
-  char dir[] = "/tmp/lzel_tour_XXXXXX";
-  if (mkdtemp(dir) == nullptr) return 1;
-  g_dir = dir;
+  namespace fs = std::filesystem;
+  for (unsigned tries = 0; g_dir.empty() && tries < 100; ++tries) {
+    fs::path const dir = fs::temp_directory_path() / ("lzel_tour_" + std::to_string(std::rand()));
+    if (fs::create_directory(dir)) g_dir = dir.string();
+  }
+  if (g_dir.empty()) return 1;
 
   StringEditing();
   RegisterFields();
@@ -289,9 +291,6 @@ int main() {
   CsvFile();
   BitmapPixel();
 
-  for (char const* name : {"check.txt", "values.bin", "parts.csv", "tiny.bmp"}) {
-    std::remove((g_dir + "/" + name).c_str());
-  }
-  rmdir(dir);
+  fs::remove_all(g_dir);
   return 0;
 }

@@ -1,26 +1,14 @@
 #include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
-
-#include <ctime>
-
-#include <time.h>
+#include <LZEL_Core/platform/ZEL_Platform.h>
 
 namespace ZEL {
 
-// The platform's local clock: the real-time clock for the instant, and the
-// C library's local-time conversion (time zone and summer time included).
+// The platform's local clock; every field -1 when it can't be read.
 t_LocalClock ReadLocalClock() {
-  timespec now{};
-  std::tm local{};
-  if (clock_gettime(CLOCK_REALTIME, &now) != 0 || localtime_r(&now.tv_sec, &local) == nullptr) {
-    return t_LocalClock{-1, -1, -1, -1, -1, -1, -1};
-  }
-  return t_LocalClock{local.tm_year + 1900,
-                      local.tm_mon + 1,
-                      local.tm_mday,
-                      local.tm_hour,
-                      local.tm_min,
-                      local.tm_sec,
-                      static_cast<int>(now.tv_nsec / 1000000)};
+  Platform::SClockReading now{};
+  if (!Platform::ReadLocalClock(now)) return t_LocalClock{-1, -1, -1, -1, -1, -1, -1};
+  return t_LocalClock{now.year,   now.month,  now.day,        now.hour,
+                      now.minute, now.second, now.millisecond};
 }
 
 }  // namespace ZEL

@@ -18,13 +18,13 @@
 #include <LZEL_Core/containers/CZEL_VectorListOps.h>
 #include <LZEL_Core/containers/ZEL_ContainerElements.h>
 
-#define ZEL_EXTERN_CONTAINERS(T)        \
-  extern template class CZEL_Vector<T>; \
-  extern template class CZEL_List<T>;
+#define ZEL_EXTERN_CONTAINERS(T)            \
+  ZEL_EXTERN_TEMPLATE(class CZEL_Vector<T>) \
+  ZEL_EXTERN_TEMPLATE(class CZEL_List<T>)
 
-#define ZEL_EXTERN_ORDERED_CONTAINERS(T)       \
-  extern template class CZEL_OrderedVector<T>; \
-  extern template class CZEL_OrderedList<T>;
+#define ZEL_EXTERN_ORDERED_CONTAINERS(T)           \
+  ZEL_EXTERN_TEMPLATE(class CZEL_OrderedVector<T>) \
+  ZEL_EXTERN_TEMPLATE(class CZEL_OrderedList<T>)
 
 ZEL_CONTAINER_NUMBERS(ZEL_EXTERN_CONTAINERS)
 ZEL_CONTAINER_NUMBERS(ZEL_EXTERN_ORDERED_CONTAINERS)

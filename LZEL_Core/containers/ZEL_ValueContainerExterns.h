@@ -37,9 +37,9 @@
   X(CZEL_Int32Rect)                    \
   X(CZEL_DoubleRect)
 
-#define ZEL_EXTERN_VALUE_CONTAINERS(T)  \
-  extern template class CZEL_Vector<T>; \
-  extern template class CZEL_List<T>;
+#define ZEL_EXTERN_VALUE_CONTAINERS(T)      \
+  ZEL_EXTERN_TEMPLATE(class CZEL_Vector<T>) \
+  ZEL_EXTERN_TEMPLATE(class CZEL_List<T>)
 
 ZEL_CONTAINER_VALUE_CLASSES(ZEL_EXTERN_VALUE_CONTAINERS)
 

@@ -1,28 +1,25 @@
 #include <LZEL_Core/frame/CZEL_Exception.h>
 #include <LZEL_Core/frame/CZEL_Mutex.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
-
-#include <pthread.h>
+#include <LZEL_Core/platform/ZEL_Platform.h>
 
 #include <atomic>
-#include <cerrno>
 
 using ZEL::u32;
+namespace Platform = ZEL::Platform;
 
-// The platform layer: a POSIX mutex that is recursive (the holder may lock
-// again) and robust (an owner that ends while holding it is reported to the
-// next locker). `m_Users` counts the objects that share the handle, so that
-// the storage lives exactly as long as one of them can reach it; `m_Closed`
-// records that the first of them has been destroyed, which is what the
-// callers see.
+// The platform's recursive mutex, shared by every copy. `m_Users` counts the
+// objects that share the handle, so that the storage lives exactly as long as
+// one of them can reach it; `m_Closed` records that the first of them has
+// been destroyed, which is what the callers see.
 struct CZEL_Mutex::SHandle {
-  pthread_mutex_t m_Mutex;
+  Platform::SMutex* m_Mutex = nullptr;
   std::atomic<u32> m_Users{1};
   std::atomic<bool> m_Closed{false};
 
   // Releases every level of the calling thread's hold, if it holds the lock.
   void ReleaseAllLevels() {
-    while (pthread_mutex_unlock(&m_Mutex) == 0) {
+    while (Platform::UnlockMutex(m_Mutex)) {
     }
   }
 
@@ -32,38 +29,17 @@ struct CZEL_Mutex::SHandle {
     if (!m_Closed.exchange(true)) ReleaseAllLevels();
   }
 
-  // Drops one object's share. The last share destroys the platform mutex,
-  // unless a thread that is still running holds it: that thread's record of
-  // its held robust locks still points here, so the storage is kept.
+  // Drops one object's share; the last share destroys the platform mutex.
   void DropShare() {
     if (m_Users.fetch_sub(1) != 1) return;
-    int const result = pthread_mutex_trylock(&m_Mutex);
-    if (result == EOWNERDEAD) pthread_mutex_consistent(&m_Mutex);
-    if (result != 0 && result != EOWNERDEAD) return;
-    ReleaseAllLevels();
-    pthread_mutex_destroy(&m_Mutex);
+    Platform::DestroyMutex(m_Mutex);
     delete this;
   }
 };
 
-namespace {
-
-// Sets up a recursive, robust mutex; 0 on success, else the platform's error.
-int InitRecursiveRobust(pthread_mutex_t& mutex) {
-  pthread_mutexattr_t attributes;
-  int result = pthread_mutexattr_init(&attributes);
-  if (result != 0) return result;
-  result = pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_RECURSIVE);
-  if (result == 0) result = pthread_mutexattr_setrobust(&attributes, PTHREAD_MUTEX_ROBUST);
-  if (result == 0) result = pthread_mutex_init(&mutex, &attributes);
-  pthread_mutexattr_destroy(&attributes);
-  return result;
-}
-
-}  // namespace
-
 CZEL_Mutex::CZEL_Mutex() : m_Handle(new SHandle) {
-  if (InitRecursiveRobust(m_Handle->m_Mutex) != 0) {
+  m_Handle->m_Mutex = Platform::MakeMutex();
+  if (m_Handle->m_Mutex == nullptr) {
     delete m_Handle;
     throw CZEL_Exception(ZEL_ERR_FAILED, this, 0);
   }
@@ -87,23 +63,20 @@ CZEL_Mutex::~CZEL_Mutex() {
   m_Handle->DropShare();
 }
 
-// A lock taken on a lock that was closed meanwhile is given back at once.
+// A lock taken on a lock that was closed meanwhile is given back at once. An
+// abandoned lock is held all the same, and reported with 1.
 u32 CZEL_Mutex::Lock() {
   if (m_Handle->m_Closed) return 1;
-  int const result = pthread_mutex_lock(&m_Handle->m_Mutex);
-  if (result == EOWNERDEAD) {
-    pthread_mutex_consistent(&m_Handle->m_Mutex);
-  } else if (result != 0) {
-    return 1;
-  }
+  Platform::t_LockResult const result = Platform::LockMutex(m_Handle->m_Mutex);
+  if (result == Platform::LOCK_FAILED) return 1;
   if (m_Handle->m_Closed) {
-    pthread_mutex_unlock(&m_Handle->m_Mutex);
+    Platform::UnlockMutex(m_Handle->m_Mutex);
     return 1;
   }
-  return result == 0 ? 0 : 1;
+  return result == Platform::LOCK_HELD ? 0 : 1;
 }
 
 u32 CZEL_Mutex::Unlock() {
-  int const result = pthread_mutex_unlock(&m_Handle->m_Mutex);
-  return result != 0 || m_Handle->m_Closed ? 1 : 0;
+  bool const released = Platform::UnlockMutex(m_Handle->m_Mutex);
+  return !released || m_Handle->m_Closed ? 1 : 0;
 }

@@ -22,11 +22,33 @@
 // ZEL_API
 //
 // Marks a class, a class template or a free function as part of the library's
-// exported surface. Everything else in the shared library is hidden.
-#if defined(__GNUC__) || defined(__clang__)
+// exported surface. Everything else in the shared library is hidden. On
+// Windows the DLL exports the surface (LZEL_Core_EXPORTS is defined while it
+// is built) and its users import it; with the static library (ZEL_STATIC,
+// which the CMake target passes on to its users) nothing is marked.
+#if defined(_WIN32) && defined(ZEL_STATIC)
+#define ZEL_API
+#elif defined(_WIN32) && defined(LZEL_Core_EXPORTS)
+#define ZEL_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define ZEL_API __declspec(dllimport)
+#elif defined(__GNUC__) || defined(__clang__)
 #define ZEL_API __attribute__((visibility("default")))
 #else
 #define ZEL_API
+#endif
+
+// ZEL_EXTERN_TEMPLATE(class CZEL_Vector<int>)
+//
+// Declares that the library holds the explicit instantiation, so that a
+// program links against it instead of compiling its own. A program that
+// imports the Windows DLL instantiates the templates itself instead: the DLL
+// doesn't export the templates' inline members, which the declaration would
+// leave to it.
+#if defined(_WIN32) && !defined(ZEL_STATIC) && !defined(LZEL_Core_EXPORTS)
+#define ZEL_EXTERN_TEMPLATE(...)
+#else
+#define ZEL_EXTERN_TEMPLATE(...) extern template __VA_ARGS__;
 #endif
 
 namespace ZEL {

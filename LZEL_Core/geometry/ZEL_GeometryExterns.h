@@ -24,10 +24,10 @@
   X(int)                            \
   X(double)
 
-#define ZEL_EXTERN_GEOMETRY(T)         \
-  extern template class CZEL_Point<T>; \
-  extern template class CZEL_Size<T>;  \
-  extern template class CZEL_Rect<T>;
+#define ZEL_EXTERN_GEOMETRY(T)             \
+  ZEL_EXTERN_TEMPLATE(class CZEL_Point<T>) \
+  ZEL_EXTERN_TEMPLATE(class CZEL_Size<T>)  \
+  ZEL_EXTERN_TEMPLATE(class CZEL_Rect<T>)
 
 ZEL_GEOMETRY_COORDINATES(ZEL_EXTERN_GEOMETRY)
 

@@ -1,26 +1,19 @@
-// 64-bit offsets in the stream calls also where `long` is 32 bits.
-#ifndef _FILE_OFFSET_BITS
-#define _FILE_OFFSET_BITS 64
-#endif
-
 #include <LZEL_Core/io/CZEL_File.h>
 
 #include <LZEL_Core/containers/CZEL_Uint8Vector.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>
-
-#include <sys/stat.h>
-#include <unistd.h>
+#include <LZEL_Core/platform/ZEL_Platform.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <string>
-#include <vector>
 
 using ZEL::u32;
 using ZEL::u64;
 using ZEL::u8;
+namespace Platform = ZEL::Platform;
 
 namespace {
 
@@ -34,26 +27,11 @@ char const* ModeOf(u32 flags) {
   return read ? "rb" : nullptr;
 }
 
-u64 Tell(std::FILE* stream) { return static_cast<u64>(ftello(stream)); }
+u64 Tell(std::FILE* stream) { return Platform::TellStream(stream); }
 
 int Seek(std::FILE* stream, u64 offset, int whence) {
-  return fseeko(stream, static_cast<off_t>(offset), whence);
+  return Platform::SeekStream(stream, static_cast<ZEL::i64>(offset), whence);
 }
-
-// The bytes that a read stream holds read ahead, and taking a run of them as
-// getc_unlocked takes one. Where the runtime doesn't show its buffer, there
-// are none, and every byte goes through getc_unlocked.
-#if defined(__GLIBC__)
-std::size_t ReadAhead(std::FILE* stream) {
-  return static_cast<std::size_t>(stream->_IO_read_end - stream->_IO_read_ptr);
-}
-char const* ReadAheadBytes(std::FILE* stream) { return stream->_IO_read_ptr; }
-void TakeReadAhead(std::FILE* stream, std::size_t count) { stream->_IO_read_ptr += count; }
-#else
-std::size_t ReadAhead(std::FILE* /*stream*/) { return 0; }
-char const* ReadAheadBytes(std::FILE* /*stream*/) { return nullptr; }
-void TakeReadAhead(std::FILE* /*stream*/, std::size_t /*count*/) {}
-#endif
 
 bool IsDropped(int ch) { return ch == 0 || ch == 13; }
 
@@ -81,15 +59,15 @@ std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u6
   };
   u64 count = 0;
   std::int64_t result = -1;
-  flockfile(stream);
+  Platform::LockStream(stream);
   for (;;) {
-    std::size_t const ahead = counted ? ReadAhead(stream) : 0;
+    std::size_t const ahead = counted ? Platform::ReadAheadCount(stream) : 0;
     if (count >= limit || (ahead == 0 && atEnd())) {
       if (count != 0) result = static_cast<std::int64_t>(count);
       break;
     }
     if (ahead > 0) {
-      char const* bytes = ReadAheadBytes(stream);
+      char const* bytes = Platform::ReadAheadBytes(stream);
       auto const* lf = static_cast<char const*>(std::memchr(bytes, 10, ahead));
       std::size_t const span = lf != nullptr ? static_cast<std::size_t>(lf - bytes) : ahead;
       std::size_t used = 0;
@@ -109,14 +87,14 @@ std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u6
         if (used < span && count < limit) ++used;  // the dropped byte
       }
       bool const ended = lf != nullptr && used == span && count < limit;
-      TakeReadAhead(stream, used + (ended ? 1 : 0));
+      Platform::TakeReadAhead(stream, used + (ended ? 1 : 0));
       if (ended) {
         result = static_cast<std::int64_t>(count);
         break;
       }
       continue;
     }
-    int const ch = getc_unlocked(stream);
+    int const ch = Platform::GetByteLocked(stream);
     if (ch == EOF) break;
     if (ch == 10) {
       result = static_cast<std::int64_t>(count);
@@ -127,7 +105,7 @@ std::int64_t ScanLine(CZEL_File const& file, std::FILE* stream, bool counted, u6
     keep(&kept, 1, count);
     ++count;
   }
-  funlockfile(stream);
+  Platform::UnlockStream(stream);
   return result;
 }
 
@@ -153,15 +131,12 @@ class LineText {
   std::string m_Long;
 };
 
-// The index behind the last '/' of `path`, 0 if it has none.
+// The index behind the last separator of `path`, 0 if it has none.
 u32 CutBehindLastSeparator(CZEL_String const& path) {
   char const* text = path.GetStringC();
-  char const* last = std::strrchr(text, '/');
+  char const* last = std::strrchr(text, Platform::kPathSeparator);
   return last == nullptr ? 0 : static_cast<u32>(last - text) + 1;
 }
-
-// `path` as text, up to its first 0 byte.
-std::string TextOf(CZEL_String const& path) { return std::string(path.GetStringC()); }
 
 }  // namespace
 
@@ -187,7 +162,7 @@ void CZEL_File::DataCopy(CZEL_File const& src) {
 u32 CZEL_File::Open(CZEL_String const& path, u32 flags) {
   char const* mode = ModeOf(flags);
   if (mode == nullptr) return ZEL_ERR_OPEN_FAILED;
-  std::FILE* stream = std::fopen(path.GetStringC(), mode);
+  std::FILE* stream = Platform::OpenStream(path.GetStringC(), mode);
   if (stream == nullptr) return ZEL_ERR_OPEN_FAILED;
   m_OpenFlags = flags;
   m_Stream = stream;
@@ -252,10 +227,8 @@ bool CZEL_File::HasStableSize() const {
 
 u64 CZEL_File::GetLength() const {
   if (m_Stream == nullptr) return 0;
-  struct stat status {};
-  if (HasStableSize() && fstat(fileno(m_Stream), &status) == 0 && S_ISREG(status.st_mode)) {
-    return static_cast<u64>(status.st_size);
-  }
+  u64 recorded = 0;
+  if (HasStableSize() && Platform::RecordedSize(m_Stream, recorded)) return recorded;
   u64 const here = Tell(m_Stream);
   Seek(m_Stream, 0, SEEK_END);
   u64 const end = Tell(m_Stream);
@@ -340,37 +313,16 @@ u32 CZEL_File::CopyFile(CZEL_String const& destination, CZEL_String const& sourc
 }
 
 u32 CZEL_File::DeleteFile(CZEL_String const& path) {
-  return unlink(path.GetStringC()) == 0 ? ZEL_ERR_NONE : ZEL_ERR_IO;
+  return Platform::RemoveFile(path.GetStringC()) ? ZEL_ERR_NONE : ZEL_ERR_IO;
 }
 
 u8 CZEL_File::IsPresent(CZEL_String const& path) {
-  struct stat status {};
-  return stat(path.GetStringC(), &status) == 0 ? 1 : 0;
+  return Platform::HasStatus(path.GetStringC()) ? 1 : 0;
 }
 
 CZEL_String CZEL_File::GetFullPathFromPath(CZEL_String const& path) {
-  std::string text = TextOf(path);
-  if (text.empty()) return CZEL_String();
-  if (text[0] != '/') {
-    std::vector<char> cwd(4096);
-    if (getcwd(cwd.data(), cwd.size()) == nullptr) return CZEL_String();
-    text = std::string(cwd.data()) + '/' + text;
-  }
-  std::vector<std::string> parts;
-  for (std::size_t start = 0; start <= text.size();) {
-    std::size_t end = text.find('/', start);
-    if (end == std::string::npos) end = text.size();
-    std::string part = text.substr(start, end - start);
-    if (part == "..") {
-      if (!parts.empty()) parts.pop_back();
-    } else if (!part.empty() && part != ".") {
-      parts.push_back(std::move(part));
-    }
-    start = end + 1;
-  }
-  std::string full;
-  for (auto const& part : parts) full += '/' + part;
-  if (full.empty() || text.back() == '/') full += '/';
+  std::string const full = Platform::FullPath(path.GetStringC());
+  if (full.empty()) return CZEL_String();
   return CZEL_String(full.data(), static_cast<u32>(full.size()));
 }
 

@@ -30,9 +30,10 @@
 // stream. Copy only a closed file, or see to it that exactly one of the
 // copies ever reaches `Close` or its destructor with the stream set.
 //
-// Paths are split on '/', the platform's separator. The full path is made
-// absolute against the current directory with "." and ".." folded as text;
-// the path need not exist.
+// Paths are split on the platform's separator: '/' on POSIX, where the full
+// path is made absolute against the current directory with "." and ".."
+// folded as text; '\' on Windows, where the system's lookup makes it (it
+// turns '/' into '\' and puts a drive in front). The path need not exist.
 
 #ifndef LZEL_CORE_IO_CZEL_FILE_H_
 #define LZEL_CORE_IO_CZEL_FILE_H_
@@ -94,7 +95,8 @@ class ZEL_API CZEL_File : public CZEL_Object {
   // file and stores `flags` and `path`. Returns ZEL_ERR_OPEN_FAILED if the
   // stream can't be opened or the flags have neither WRITE nor READ; the
   // object is then unchanged. A stream held already is not closed, and is
-  // lost: close before opening again.
+  // lost: close before opening again. A directory is no file: opening one
+  // fails as a missing file does, on every platform.
   ZEL::u32 Open(CZEL_String const& path, ZEL::u32 flags);
 
   // Flushes and closes the stream, if open, without looking at the results.
@@ -213,16 +215,16 @@ class ZEL_API CZEL_File : public CZEL_Object {
   static ZEL::u8 IsPresent(CZEL_String const& path);
 
   // `path` made absolute against the current directory, "." and ".." folded
-  // and repeated separators merged as text, a final '/' kept. The path need
-  // not exist. An empty path, or a current directory that can't be found,
-  // gives an empty text.
+  // and repeated separators merged, a final separator kept. The path need
+  // not exist. On POSIX an empty path, or a current directory that can't be
+  // found, gives an empty text; on Windows the system's lookup decides.
   static CZEL_String GetFullPathFromPath(CZEL_String const& path);
 
-  // The part of the full path behind its last '/'; empty when the full path
-  // ends in '/'.
+  // The part of the full path behind its last separator; empty when the full
+  // path ends in one.
   static CZEL_String GetNameFromPath(CZEL_String const& path);
 
-  // The part of the full path up to and including its last '/'. With
+  // The part of the full path up to and including its last separator. With
   // `GetNameFromPath` it gives the full path again.
   static CZEL_String GetPathFromPath(CZEL_String const& path);
 

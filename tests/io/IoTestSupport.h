@@ -8,9 +8,8 @@
 #include <LZEL_Core/frame/ZEL_Errors.h>
 #include <LZEL_Core/io/ZEL_Io.h>
 
-#include <unistd.h>
-
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -44,10 +43,19 @@ inline CZEL_String Make(std::string const& s) { return CZEL_String(s.data(), ZEL
 class TempDirTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    m_Dir = std::string(std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") + "/lzel_io_XXXXXX";
-    ASSERT_NE(mkdtemp(m_Dir.data()), nullptr);
+    namespace fs = std::filesystem;
+    for (unsigned tries = 0; m_Dir.empty() && tries < 100; ++tries) {
+      fs::path const dir = fs::temp_directory_path() / ("lzel_io_" + std::to_string(std::rand()));
+      if (fs::create_directory(dir)) m_Dir = dir.string();
+    }
+    ASSERT_FALSE(m_Dir.empty());
   }
-  void TearDown() override { ASSERT_EQ(std::system(("rm -rf '" + m_Dir + "'").c_str()), 0); }
+  // Windows keeps a file whose stream a test lost on purpose (an open over an
+  // open one), and its directory with it.
+  void TearDown() override {
+    std::error_code kept;
+    std::filesystem::remove_all(m_Dir, kept);
+  }
   std::string PathOf(std::string const& name) const { return m_Dir + "/" + name; }
   CZEL_String Z(std::string const& name) const { return CZEL_String(PathOf(name).c_str()); }
   // The whole content of the file `name`; empty if it can't be read.
