@@ -4,7 +4,7 @@
 //
 // `CZEL_Vector<T>` is LZEL_Core's array: one contiguous block of exactly as
 // many items as its length says. There is no spare capacity: the length is
-// the only size, so every growth and every shrink reallocates and copies.
+// the only size, so every growth and every shrink reallocates.
 // Most edits take a flag (`extend`, `shrink`) that says whether the length may
 // change, a fixed-length shift that drops items off the end is an operation
 // of its own, positions and counts are `ZEL::u32`, and misuse throws a
@@ -31,16 +31,19 @@
 // storage, class items whose move assignment cannot throw are moved there
 // rather than copied.
 //
-// A vector moves in constant time (`std::move`, `Swap`, `swap`), leaving the
-// source empty, and `begin()`/`end()` make it a range of raw pointers for
-// range-for and the standard algorithms:
+// The move constructor, `Swap` and `swap` hand the array over in constant
+// time; a move assignment does so too, except between equal lengths, where
+// it moves the items over and keeps this array, as the copy does. A moved-from
+// vector is empty. `begin()` and `end()` make a vector a range of raw
+// pointers for range-for and the standard algorithms:
 //
 //   CZEL_Vector<int> v = Build();   // moved, not copied
 //   std::sort(v.begin(), v.end());  // `Sort` itself never returns on 2+ items
 //
 // The pointer of `GetBuf()` and the references of `operator[]` stay valid
 // until the next operation that reallocates: `Create`, `Recreate`,
-// `DeleteAll`, assignment from a source of another length, `AppendItem`,
+// `DeleteAll`, assignment from a source of another length, `Swap` and a move
+// (after which they belong to the other vector), `AppendItem`,
 // `operator+=`, `AppendVector`, `AppendList`, `operator&=`, and any operation
 // called with its extend or shrink flag set.
 //
