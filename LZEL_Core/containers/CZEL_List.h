@@ -22,6 +22,16 @@
 // and moves the cursor: reading a list is a use that changes it, so two
 // threads may not read one list at once. `GetLength` is constant.
 //
+// The one read that leaves the cursor alone is the const walk of `begin()`
+// and `end()`, from the head along the forward links, for range-for and the
+// standard algorithms:
+//
+//   CZEL_List<int> const& view = list;
+//   int sum = std::accumulate(view.begin(), view.end(), 0);  // cursor stays
+//
+// A list moves in constant time (`std::move`, `Swap`, `swap`); the source is
+// left empty.
+//
 // Links and the tail. `Next`, `Prev` and the walks that copy or count follow
 // the node links and stop where a link ends; `IsEnd`, `ToEnd`, `AppendItem`,
 // `Pop` and `DeleteItems` go by the recorded tail. The two coincide except
@@ -49,7 +59,11 @@
 #include <LZEL_Core/frame/ZEL_Errors.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
+#include <cstddef>
+#include <iterator>
 #include <memory>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 template <typename T>
@@ -67,8 +81,19 @@ class ZEL_API CZEL_List : public CZEL_Object {
   // ZEL_ERR_EMPTY_INPUT if count is 0.
   CZEL_List(T* src, ZEL::u32 count);
 
+  // `count` nodes of `value` for a count of another integer type, so that
+  // `CZEL_List<double>(0, 0)` is an empty list and not a null source. Number
+  // items only; the count is cut to 32 bits as the u32 form takes it.
+  template <typename N, typename U = T,
+            typename = std::enable_if_t<std::is_integral<N>::value && std::is_arithmetic<U>::value>>
+  CZEL_List(N count, T const& value) : CZEL_List(static_cast<ZEL::u32>(count), value) {}
+
   // A deep copy, cursor on the head.
   CZEL_List(CZEL_List<T> const& src);
+
+  // Takes src's nodes in constant time, the cursor on the head as for a copy;
+  // src is left empty, its cursor null. Never throws.
+  CZEL_List(CZEL_List<T>&& src) noexcept;
 
   // Releases all nodes.
   ~CZEL_List() override;
@@ -81,6 +106,18 @@ class ZEL_API CZEL_List : public CZEL_Object {
   // `DataCopy(src)`: the vector's items; an empty vector empties the list.
   CZEL_List<T>& operator=(CZEL_Vector<T>& src);
 
+  // Takes src's nodes and releases this list's own; the cursor goes to the
+  // head, as for a copy, and src is left empty. As for the copy, an empty src
+  // (or this list itself) changes nothing at all. Never throws.
+  CZEL_List<T>& operator=(CZEL_List<T>&& src) noexcept;
+
+  // Exchanges the nodes of the two lists in constant time; each cursor stays
+  // on its node and so goes with it. Never throws.
+  CZEL_List<T>& Swap(CZEL_List<T>& other) noexcept;
+
+  // `a.Swap(b)`, found by argument-dependent lookup.
+  friend void swap(CZEL_List<T>& a, CZEL_List<T>& b) noexcept { a.Swap(b); }
+
   // Empties the list, then appends each of the vector's items. The cursor ends
   // on the tail, or null for an empty vector.
   void DataCopy(CZEL_Vector<T>& src);
@@ -92,6 +129,17 @@ class ZEL_API CZEL_List : public CZEL_Object {
 
   // The length, not an emptiness flag.
   ZEL::u32 operator!() const;
+
+  // A forward walk over the items that leaves the cursor alone.
+  class CConstIterator;
+
+  // The head's item, walking along the forward links to `end()`, as
+  // `operator==` does. The cursor does not move; an empty list gives
+  // `end()`. Valid while the nodes walked over stay in the list.
+  CConstIterator begin() const;
+
+  // One past the last node the forward links reach.
+  CConstIterator end() const;
 
   // The cursor's item; the cursor stays. Throws ZEL_ERR_BAD_POSITION if the
   // list is empty.
@@ -344,6 +392,44 @@ class ZEL_API CZEL_List : public CZEL_Object {
   std::vector<SNode*>* m_pKept;
 };
 
+// A forward iterator over the items of a const list, from the head along the
+// forward links; it never touches the list's cursor.
+template <typename T>
+class CZEL_List<T>::CConstIterator {
+ public:
+  using iterator_category = std::forward_iterator_tag;
+  using value_type = T;
+  using difference_type = std::ptrdiff_t;
+  using pointer = T const*;
+  using reference = T const&;
+
+  // The end of every list.
+  CConstIterator() : m_pNode(nullptr) {}
+
+  T const& operator*() const { return m_pNode->m_Item; }
+  T const* operator->() const { return &m_pNode->m_Item; }
+
+  // Steps to the next node along the forward link; past the last, to `end()`.
+  CConstIterator& operator++() {
+    m_pNode = m_pNode->m_pNext;
+    return *this;
+  }
+  CConstIterator operator++(int) {
+    CConstIterator before = *this;
+    ++*this;
+    return before;
+  }
+
+  bool operator==(CConstIterator const& other) const { return m_pNode == other.m_pNode; }
+  bool operator!=(CConstIterator const& other) const { return m_pNode != other.m_pNode; }
+
+ private:
+  friend class CZEL_List<T>;
+  explicit CConstIterator(SNode const* node) : m_pNode(node) {}
+
+  SNode const* m_pNode;
+};
+
 // Implementation ---------------------------------------------------------------
 //
 // The small accessors are inline, so that callers can inline them although
@@ -372,8 +458,43 @@ CZEL_List<T>::CZEL_List(CZEL_List<T> const& src) : CZEL_List() {
 }
 
 template <typename T>
+CZEL_List<T>::CZEL_List(CZEL_List<T>&& src) noexcept : CZEL_List() {
+  Swap(src);
+  m_Cur = m_Head;
+}
+
+template <typename T>
 CZEL_List<T>::~CZEL_List() {
   DeleteAll();
+}
+
+template <typename T>
+CZEL_List<T>& CZEL_List<T>::operator=(CZEL_List<T>&& src) noexcept {
+  if (&src == this || src.m_Length == 0) return *this;
+  Swap(src);
+  src.DeleteAll();
+  m_Cur = m_Head;
+  return *this;
+}
+
+template <typename T>
+CZEL_List<T>& CZEL_List<T>::Swap(CZEL_List<T>& other) noexcept {
+  std::swap(m_Head, other.m_Head);
+  std::swap(m_Tail, other.m_Tail);
+  std::swap(m_Cur, other.m_Cur);
+  std::swap(m_Length, other.m_Length);
+  std::swap(m_pKept, other.m_pKept);
+  return *this;
+}
+
+template <typename T>
+inline typename CZEL_List<T>::CConstIterator CZEL_List<T>::begin() const {
+  return CConstIterator(m_Head);
+}
+
+template <typename T>
+inline typename CZEL_List<T>::CConstIterator CZEL_List<T>::end() const {
+  return CConstIterator();
 }
 
 template <typename T>

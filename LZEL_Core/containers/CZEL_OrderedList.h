@@ -23,6 +23,9 @@
 #include <LZEL_Core/containers/ZEL_Order.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
+#include <type_traits>
+#include <utility>
+
 template <typename T>
 class ZEL_API CZEL_OrderedList : public CZEL_List<T> {
  public:
@@ -33,8 +36,21 @@ class ZEL_API CZEL_OrderedList : public CZEL_List<T> {
   CZEL_OrderedList(T* src, ZEL::u32 count);
   CZEL_OrderedList(CZEL_OrderedList<T> const& src);
 
+  // The base's forms for a count of another integer type (`(0, 0)` included)
+  // and for moves, with the same results.
+  template <typename N, typename = std::enable_if_t<std::is_integral<N>::value>>
+  CZEL_OrderedList(N count, T const& value)
+      : CZEL_OrderedList(static_cast<ZEL::u32>(count), value) {}
+  CZEL_OrderedList(CZEL_OrderedList<T>&& src) noexcept;
+
   // The list's assignment: an empty source changes nothing.
   CZEL_OrderedList<T>& operator=(CZEL_OrderedList<T> const& src);
+
+  // The base's move assignment.
+  CZEL_OrderedList<T>& operator=(CZEL_OrderedList<T>&& src) noexcept;
+
+  // `a.Swap(b)`, found by argument-dependent lookup.
+  friend void swap(CZEL_OrderedList<T>& a, CZEL_OrderedList<T>& b) noexcept { a.Swap(b); }
 
   // The list's `Sort` with `Compare`: a non-zero `ascending` gives rising
   // order, 0 falling order. Fewer than two items return at once.
@@ -72,6 +88,16 @@ CZEL_OrderedList<T>::CZEL_OrderedList(T* src, ZEL::u32 count) : CZEL_List<T>(src
 
 template <typename T>
 CZEL_OrderedList<T>::CZEL_OrderedList(CZEL_OrderedList<T> const& src) : CZEL_List<T>(src) {}
+
+template <typename T>
+CZEL_OrderedList<T>::CZEL_OrderedList(CZEL_OrderedList<T>&& src) noexcept
+    : CZEL_List<T>(std::move(src)) {}
+
+template <typename T>
+CZEL_OrderedList<T>& CZEL_OrderedList<T>::operator=(CZEL_OrderedList<T>&& src) noexcept {
+  CZEL_List<T>::operator=(std::move(src));
+  return *this;
+}
 
 template <typename T>
 CZEL_OrderedList<T>& CZEL_OrderedList<T>::operator=(CZEL_OrderedList<T> const& src) {

@@ -28,6 +28,9 @@
 #include <LZEL_Core/containers/ZEL_Order.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
+#include <type_traits>
+#include <utility>
+
 template <typename T>
 class ZEL_API CZEL_OrderedVector : public CZEL_Vector<T> {
  public:
@@ -39,8 +42,21 @@ class ZEL_API CZEL_OrderedVector : public CZEL_Vector<T> {
   CZEL_OrderedVector(T* src, ZEL::u32 count);
   CZEL_OrderedVector(CZEL_OrderedVector<T> const& src);
 
+  // The base's forms for a count of another integer type (`(0, 0)` included)
+  // and for moves, with the same results.
+  template <typename N, typename = std::enable_if_t<std::is_integral<N>::value>>
+  CZEL_OrderedVector(N count, T const& value)
+      : CZEL_OrderedVector(static_cast<ZEL::u32>(count), value) {}
+  CZEL_OrderedVector(CZEL_OrderedVector<T>&& src) noexcept;
+
   // The vector's assignment.
   CZEL_OrderedVector<T>& operator=(CZEL_OrderedVector<T> const& src);
+
+  // The base's move assignment.
+  CZEL_OrderedVector<T>& operator=(CZEL_OrderedVector<T>&& src) noexcept;
+
+  // `a.Swap(b)`, found by argument-dependent lookup.
+  friend void swap(CZEL_OrderedVector<T>& a, CZEL_OrderedVector<T>& b) noexcept { a.Swap(b); }
 
   // The vector's `Sort` with `Compare`: a non-zero `ascending` gives rising
   // order, 0 falling order. Throws ZEL_ERR_INVALID_ARGUMENT on an empty
@@ -83,6 +99,16 @@ CZEL_OrderedVector<T>::CZEL_OrderedVector(T* src, ZEL::u32 count) : CZEL_Vector<
 
 template <typename T>
 CZEL_OrderedVector<T>::CZEL_OrderedVector(CZEL_OrderedVector<T> const& src) : CZEL_Vector<T>(src) {}
+
+template <typename T>
+CZEL_OrderedVector<T>::CZEL_OrderedVector(CZEL_OrderedVector<T>&& src) noexcept
+    : CZEL_Vector<T>(std::move(src)) {}
+
+template <typename T>
+CZEL_OrderedVector<T>& CZEL_OrderedVector<T>::operator=(CZEL_OrderedVector<T>&& src) noexcept {
+  CZEL_Vector<T>::operator=(std::move(src));
+  return *this;
+}
 
 template <typename T>
 CZEL_OrderedVector<T>& CZEL_OrderedVector<T>::operator=(CZEL_OrderedVector<T> const& src) {

@@ -20,6 +20,8 @@
 #include <LZEL_Core/frame/ZEL_Types.h>
 #include <LZEL_Core/text/CZEL_String.h>
 
+#include <type_traits>
+
 class CZEL_StringList;
 
 class ZEL_API CZEL_StringVector : public CZEL_Vector<CZEL_String> {
@@ -32,6 +34,16 @@ class ZEL_API CZEL_StringVector : public CZEL_Vector<CZEL_String> {
   // empty vector and returns on one item; on two or more it never returns,
   // as `CZEL_Vector<T>::Sort` (which takes a comparator that can end it).
   CZEL_StringVector& Sort(ZEL::u8 ascending, ZEL::u8 matchCase);
+
+  // `Sort(ascending, matchCase)` for flags of other integer types, so that
+  // `Sort(0, 0)` means falling order, blind to case, rather than clashing
+  // with the comparator form. Each flag is cut to its low byte, as the u8
+  // form takes it.
+  template <typename A, typename M,
+            typename = std::enable_if_t<std::is_integral<A>::value && std::is_integral<M>::value>>
+  CZEL_StringVector& Sort(A ascending, M matchCase) {
+    return Sort(static_cast<ZEL::u8>(ascending), static_cast<ZEL::u8>(matchCase));
+  }
 
   // The base's `Sort` with a comparator of the caller's.
   using CZEL_Vector<CZEL_String>::Sort;

@@ -4,37 +4,26 @@
 
 ZEL_NAMED_VECTOR_DEFINITIONS(CZEL_Uint8Vector, CZEL_Uint8List, ZEL::u8, CZEL_OrderedVector<ZEL::u8>)
 
-short CZEL_Uint8Vector::GetInt16(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::Int16FromBuf);
-}
+// Each getter twice, for a const vector and for the others, both reading
+// through `Get`.
+#define ZEL_BYTE_FIELD_GETTERS(V, Name)                                          \
+  V CZEL_Uint8Vector::Get##Name(ZEL::u32 pos, ZEL::t_ByteOrdering order) const { \
+    return Get(pos, order, &ZEL::Name##FromBuf);                                 \
+  }                                                                              \
+  V CZEL_Uint8Vector::Get##Name(ZEL::u32 pos, ZEL::t_ByteOrdering order) {       \
+    return Get(pos, order, &ZEL::Name##FromBuf);                                 \
+  }
 
-ZEL::u16 CZEL_Uint8Vector::GetUint16(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::Uint16FromBuf);
-}
+ZEL_BYTE_FIELD_GETTERS(short, Int16)
+ZEL_BYTE_FIELD_GETTERS(ZEL::u16, Uint16)
+ZEL_BYTE_FIELD_GETTERS(int, Int32)
+ZEL_BYTE_FIELD_GETTERS(ZEL::u32, Uint32)
+ZEL_BYTE_FIELD_GETTERS(ZEL::i64, Int64)
+ZEL_BYTE_FIELD_GETTERS(ZEL::u64, Uint64)
+ZEL_BYTE_FIELD_GETTERS(float, Float)
+ZEL_BYTE_FIELD_GETTERS(double, Double)
 
-int CZEL_Uint8Vector::GetInt32(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::Int32FromBuf);
-}
-
-ZEL::u32 CZEL_Uint8Vector::GetUint32(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::Uint32FromBuf);
-}
-
-ZEL::i64 CZEL_Uint8Vector::GetInt64(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::Int64FromBuf);
-}
-
-ZEL::u64 CZEL_Uint8Vector::GetUint64(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::Uint64FromBuf);
-}
-
-float CZEL_Uint8Vector::GetFloat(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::FloatFromBuf);
-}
-
-double CZEL_Uint8Vector::GetDouble(ZEL::u32 pos, ZEL::t_ByteOrdering order) {
-  return Get(pos, order, &ZEL::DoubleFromBuf);
-}
+#undef ZEL_BYTE_FIELD_GETTERS
 
 CZEL_Uint8Vector& CZEL_Uint8Vector::SetInt16(short const& value, ZEL::u32 pos,
                                              ZEL::t_ByteOrdering order) {
@@ -78,7 +67,7 @@ CZEL_Uint8Vector& CZEL_Uint8Vector::SetDouble(double const& value, ZEL::u32 pos,
 
 // The address of the field, after the range test in 32-bit arithmetic; null
 // when that sum wrapped and the field lies outside the vector after all.
-ZEL::u8* CZEL_Uint8Vector::FieldAt(ZEL::u32 pos, ZEL::u32 width) {
+ZEL::u8* CZEL_Uint8Vector::FieldAt(ZEL::u32 pos, ZEL::u32 width) const {
   if (pos + width > m_Length) Fail(ZEL_ERR_INVALID_ARGUMENT);
   if (!InArray(pos, width - 1)) return nullptr;
   return m_Buf + pos;
@@ -86,7 +75,7 @@ ZEL::u8* CZEL_Uint8Vector::FieldAt(ZEL::u32 pos, ZEL::u32 width) {
 
 template <typename V>
 V CZEL_Uint8Vector::Get(ZEL::u32 pos, ZEL::t_ByteOrdering order,
-                        V (*from)(ZEL::u8*, ZEL::t_ByteOrdering)) {
+                        V (*from)(ZEL::u8*, ZEL::t_ByteOrdering)) const {
   ZEL::u8* field = FieldAt(pos, sizeof(V));
   return field != nullptr ? from(field, order) : V(0);
 }

@@ -55,6 +55,16 @@ class ZEL_API CZEL_Uint8Vector : public CZEL_OrderedVector<ZEL::u8> {
   float GetFloat(ZEL::u32 pos, ZEL::t_ByteOrdering order);
   double GetDouble(ZEL::u32 pos, ZEL::t_ByteOrdering order);
 
+  // The same getters on a const vector, with the same results and throws.
+  short GetInt16(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  ZEL::u16 GetUint16(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  int GetInt32(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  ZEL::u32 GetUint32(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  ZEL::i64 GetInt64(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  ZEL::u64 GetUint64(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  float GetFloat(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+  double GetDouble(ZEL::u32 pos, ZEL::t_ByteOrdering order) const;
+
   // Writes `value` into the field of its width at byte `pos`, in `order`.
   // Each throws ZEL_ERR_INVALID_ARGUMENT, changing nothing, if pos + width
   // exceeds the length.
@@ -68,9 +78,9 @@ class ZEL_API CZEL_Uint8Vector : public CZEL_OrderedVector<ZEL::u8> {
   CZEL_Uint8Vector& SetDouble(double const& value, ZEL::u32 pos, ZEL::t_ByteOrdering order);
 
  private:
-  ZEL::u8* FieldAt(ZEL::u32 pos, ZEL::u32 width);
+  ZEL::u8* FieldAt(ZEL::u32 pos, ZEL::u32 width) const;
   template <typename V>
-  V Get(ZEL::u32 pos, ZEL::t_ByteOrdering order, V (*from)(ZEL::u8*, ZEL::t_ByteOrdering));
+  V Get(ZEL::u32 pos, ZEL::t_ByteOrdering order, V (*from)(ZEL::u8*, ZEL::t_ByteOrdering)) const;
   template <typename V>
   CZEL_Uint8Vector& Set(V const& value, ZEL::u32 pos, ZEL::t_ByteOrdering order,
                         void (*to)(V const&, ZEL::u8*, ZEL::t_ByteOrdering));

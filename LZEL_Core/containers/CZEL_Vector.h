@@ -4,7 +4,7 @@
 //
 // `CZEL_Vector<T>` is LZEL_Core's array: one contiguous block of exactly as
 // many items as its length says. There is no spare capacity: the length is
-// the only size, so every growth and every shrink reallocates and copies.
+// the only size, so every growth and every shrink reallocates.
 // Most edits take a flag (`extend`, `shrink`) that says whether the length may
 // change, a fixed-length shift that drops items off the end is an operation
 // of its own, positions and counts are `ZEL::u32`, and misuse throws a
@@ -20,14 +20,30 @@
 //   v.InsertItems(1, 5, 2, 1);      // 0, 5, 5, 10, 20
 //   v.DeleteItems(0, 1, 1);         // 5, 5, 10, 20
 //
-// New storage is allocated with the language's array allocation: class items
-// are default-constructed, number items hold no defined value until written
-// (nothing zero-fills them), and reading such a slot is the caller's mistake.
-// Items always move one by one through the element's assignment.
+// New storage holds exactly the length's items. Class items are allocated
+// with the language's array allocation and so default-constructed; items that
+// are trivially copyable and trivially default-constructible (the numbers)
+// come from `std::malloc`, and a growth or shrink that keeps the items in
+// place goes through `std::realloc`, which can often extend the block where it
+// lies. Number items hold no defined value until written (nothing zero-fills
+// them), and reading such a slot is the caller's mistake. Items go one by one
+// through the element's assignment; when a reallocation carries them to new
+// storage, class items whose move assignment cannot throw are moved there
+// rather than copied.
+//
+// The move constructor, `Swap` and `swap` hand the array over in constant
+// time; a move assignment does so too, except between equal lengths, where
+// it moves the items over and keeps this array, as the copy does. A moved-from
+// vector is empty. `begin()` and `end()` make a vector a range of raw
+// pointers for range-for and the standard algorithms:
+//
+//   CZEL_Vector<int> v = Build();   // moved, not copied
+//   std::sort(v.begin(), v.end());  // `Sort` itself never returns on 2+ items
 //
 // The pointer of `GetBuf()` and the references of `operator[]` stay valid
 // until the next operation that reallocates: `Create`, `Recreate`,
-// `DeleteAll`, assignment from a source of another length, `AppendItem`,
+// `DeleteAll`, assignment from a source of another length, `Swap` and a move
+// (after which they belong to the other vector), `AppendItem`,
 // `operator+=`, `AppendVector`, `AppendList`, `operator&=`, and any operation
 // called with its extend or shrink flag set.
 //
@@ -46,8 +62,13 @@
 #include <LZEL_Core/frame/ZEL_Errors.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
+#include <new>
+#include <type_traits>
+#include <utility>
 
 // The export mark must be on the first declaration, for every compiler.
 template <typename T>
@@ -70,8 +91,20 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
   // `Create(src, count)`. Throws ZEL_ERR_EMPTY_INPUT if count is 0.
   CZEL_Vector(T* src, ZEL::u32 count);
 
+  // `Create(count, value)` for a count of another integer type, so that
+  // `CZEL_Vector<double>(0, 0)` means a count and a value and not a null
+  // source. Number items only; the count is cut to 32 bits as the u32 form
+  // takes it. Throws ZEL_ERR_EMPTY_INPUT if that count is 0.
+  template <typename N, typename U = T,
+            typename = std::enable_if_t<std::is_integral<N>::value && std::is_arithmetic<U>::value>>
+  CZEL_Vector(N count, T const& value) : CZEL_Vector(static_cast<ZEL::u32>(count), value) {}
+
   // A deep copy; an empty source gives an empty vector.
   CZEL_Vector(CZEL_Vector<T> const& src);
+
+  // Takes src's array in constant time; src is left empty (null `GetBuf()`,
+  // length 0). Never throws.
+  CZEL_Vector(CZEL_Vector<T>&& src) noexcept;
 
   // Releases the array.
   ~CZEL_Vector() override;
@@ -89,6 +122,14 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
 
   // `Create(count)`, then item i = src[i].
   void Create(T* src, ZEL::u32 count);
+
+  // `Create(count, value)` for a count of another integer type: number items
+  // only, as the constructor of that form.
+  template <typename N, typename U = T,
+            typename = std::enable_if_t<std::is_integral<N>::value && std::is_arithmetic<U>::value>>
+  void Create(N count, T const& value) {
+    Create(static_cast<ZEL::u32>(count), value);
+  }
 
   // Reallocates to `newLength` items, keeping the old items from position
   // `start` on at the front (with start 0 they keep their positions); the
@@ -116,6 +157,14 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
 
   // The length, not an emptiness flag: `!v` is non-zero for a non-empty `v`.
   ZEL::u32 operator!() const;
+
+  // The first item and one past the last, as raw pointers, for range-for and
+  // the standard algorithms; both null on a vector that holds no array.
+  // Valid until the next reallocation, as `GetBuf()`.
+  T* begin();
+  T* end();
+  T const* begin() const;
+  T const* end() const;
 
   // The item at `index`, writable even through a const vector. Throws
   // ZEL_ERR_BAD_POSITION if index is not below the length.
@@ -146,6 +195,21 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
   // Takes the list's items in order, moving the list's cursor to its tail.
   // An empty list empties this vector.
   CZEL_Vector<T>& operator=(CZEL_List<T>& src);
+
+  // Takes src's items and leaves src empty. An equal length keeps this array,
+  // as the copy does, and moves the items over where the element's move
+  // assignment cannot throw; otherwise this vector takes src's array and
+  // releases its own. Assigning a vector to itself changes nothing. Never
+  // throws.
+  CZEL_Vector<T>& operator=(CZEL_Vector<T>&& src) noexcept;
+
+  // Exchanges the arrays and lengths of the two vectors in constant time.
+  // Never throws; `GetBuf()` pointers follow their items.
+  CZEL_Vector<T>& Swap(CZEL_Vector<T>& other) noexcept;
+
+  // `a.Swap(b)`, found by argument-dependent lookup, so that `using std::swap;
+  // swap(a, b)` and the standard algorithms exchange vectors in constant time.
+  friend void swap(CZEL_Vector<T>& a, CZEL_Vector<T>& b) noexcept { a.Swap(b); }
 
   // Adds one item at the end: one full reallocation per call. `item` may be
   // one of this vector's own items.
@@ -312,6 +376,23 @@ class ZEL_API CZEL_Vector : public CZEL_Object {
   ZEL::u32 m_Length;
 
  private:
+  // Items that need no construction and copy as bytes: their storage comes
+  // from malloc and realloc instead of the array allocation.
+  static constexpr bool kRawItems =
+      std::is_trivially_copyable<T>::value && std::is_trivially_default_constructible<T>::value;
+
+  // The storage helpers: exactly `count` items (a zero-item array for 0),
+  // their release, and a resize in place of raw items. A failed allocation
+  // throws the standard allocation exception.
+  static T* NewItems(ZEL::u32 count);
+  static void FreeItems(T* items) noexcept;
+  static T* ResizeItems(T* items, ZEL::u32 count);
+
+  // An item as the source of a reallocation's assignment: moved where the
+  // element's move assignment cannot throw, else copied.
+  using MoveSource = std::conditional_t<std::is_nothrow_move_assignable<T>::value, T&&, T const&>;
+  static MoveSource MoveItem(T& item) noexcept;
+
   void Reallocate(ZEL::u32 newLength, ZEL::u32 start, T const* value);
   void WriteRun(ZEL::u32 pos, T const& value, ZEL::u32 count);
   template <typename Source>
@@ -347,6 +428,13 @@ CZEL_Vector<T>::CZEL_Vector(CZEL_Vector<T> const& src) : CZEL_Vector() {
 }
 
 template <typename T>
+CZEL_Vector<T>::CZEL_Vector(CZEL_Vector<T>&& src) noexcept
+    : m_Buf(src.m_Buf), m_Length(src.m_Length) {
+  src.m_Buf = nullptr;
+  src.m_Length = 0;
+}
+
+template <typename T>
 CZEL_Vector<T>::~CZEL_Vector() {
   DeleteBuffer();
 }
@@ -358,7 +446,7 @@ void CZEL_Vector<T>::Create(ZEL::u32 count) {
   // The length is stored before the allocation: should it fail, `Recreate`
   // recognises the state of a length without storage.
   m_Length = count;
-  m_Buf = new T[count];
+  m_Buf = NewItems(count);
 }
 
 template <typename T>
@@ -395,13 +483,26 @@ void CZEL_Vector<T>::Reallocate(ZEL::u32 newLength, ZEL::u32 start, T const* val
     return;
   }
   if (m_Buf == nullptr) Fail(ZEL_ERR_INVALID_ARGUMENT);
-  std::unique_ptr<T[]> fresh(new T[newLength]);
-  ZEL::u32 i = 0;
-  for (ZEL::u32 j = start; i < newLength && j < m_Length; ++i, ++j) fresh[i] = m_Buf[j];
-  // The value is read before the old array goes: it may be one of its items.
-  if (value != nullptr) {
-    for (; i < newLength; ++i) fresh[i] = *value;
+  // The items kept: those from start on, as many as fit.
+  ZEL::u32 const kept = start >= m_Length ? 0 : std::min(newLength, m_Length - start);
+  if constexpr (kRawItems) {
+    if (start == 0 && newLength != 0) {
+      // The value is read before the block moves: it may be one of its items.
+      T const fill = value != nullptr ? *value : T();
+      m_Buf = ResizeItems(m_Buf, newLength);
+      m_Length = newLength;
+      if (value != nullptr) WriteRun(kept, fill, newLength - kept);
+      return;
+    }
   }
+  std::unique_ptr<T[], void (*)(T*)> fresh(NewItems(newLength), &FreeItems);
+  // The value first, while the old items are all in place (it may be one of
+  // them) and a throwing copy still leaves this vector as it was; the moves
+  // of the kept items that follow cannot throw.
+  if (value != nullptr) {
+    for (ZEL::u32 i = kept; i < newLength; ++i) fresh[i] = *value;
+  }
+  for (ZEL::u32 i = 0; i < kept; ++i) fresh[i] = MoveItem(m_Buf[start + i]);
   DeleteBuffer();
   m_Buf = fresh.release();
   m_Length = newLength;
@@ -416,9 +517,49 @@ CZEL_Vector<T>& CZEL_Vector<T>::DeleteAll() {
 template <typename T>
 void CZEL_Vector<T>::DeleteBuffer() {
   if (m_Buf == nullptr) return;
-  delete[] m_Buf;
+  FreeItems(m_Buf);
   m_Buf = nullptr;
   m_Length = 0;
+}
+
+template <typename T>
+T* CZEL_Vector<T>::NewItems(ZEL::u32 count) {
+  if constexpr (kRawItems) {
+    if constexpr (sizeof(std::size_t) <= sizeof(ZEL::u32)) {
+      if (count > SIZE_MAX / sizeof(T)) throw std::bad_array_new_length();
+    }
+    // malloc(0) may give null: an empty block needs no storage.
+    void* items = std::malloc(std::size_t(count) * sizeof(T));
+    if (items == nullptr && count != 0) throw std::bad_alloc();
+    return static_cast<T*>(items);
+  } else {
+    return new T[count];
+  }
+}
+
+template <typename T>
+void CZEL_Vector<T>::FreeItems(T* items) noexcept {
+  if constexpr (kRawItems) {
+    std::free(items);
+  } else {
+    delete[] items;
+  }
+}
+
+// Raw items only, and a count above 0. On failure the block is left as it was.
+template <typename T>
+T* CZEL_Vector<T>::ResizeItems(T* items, ZEL::u32 count) {
+  if constexpr (sizeof(std::size_t) <= sizeof(ZEL::u32)) {
+    if (count > SIZE_MAX / sizeof(T)) throw std::bad_array_new_length();
+  }
+  void* resized = std::realloc(static_cast<void*>(items), std::size_t(count) * sizeof(T));
+  if (resized == nullptr) throw std::bad_alloc();
+  return static_cast<T*>(resized);
+}
+
+template <typename T>
+inline typename CZEL_Vector<T>::MoveSource CZEL_Vector<T>::MoveItem(T& item) noexcept {
+  return std::move(item);
 }
 
 template <typename T>
@@ -434,6 +575,26 @@ inline ZEL::u32 CZEL_Vector<T>::GetLength() const {
 template <typename T>
 inline ZEL::u32 CZEL_Vector<T>::operator!() const {
   return m_Length;
+}
+
+template <typename T>
+inline T* CZEL_Vector<T>::begin() {
+  return m_Buf;
+}
+
+template <typename T>
+inline T* CZEL_Vector<T>::end() {
+  return m_Buf + m_Length;
+}
+
+template <typename T>
+inline T const* CZEL_Vector<T>::begin() const {
+  return m_Buf;
+}
+
+template <typename T>
+inline T const* CZEL_Vector<T>::end() const {
+  return m_Buf + m_Length;
 }
 
 template <typename T>
@@ -486,11 +647,32 @@ CZEL_Vector<T>& CZEL_Vector<T>::operator=(CZEL_Vector<T> const& src) {
 }
 
 template <typename T>
+CZEL_Vector<T>& CZEL_Vector<T>::operator=(CZEL_Vector<T>&& src) noexcept {
+  if (&src == this) return *this;
+  bool keepArray = false;
+  if constexpr (std::is_nothrow_move_assignable<T>::value) {
+    keepArray = m_Length == src.m_Length && m_Buf != nullptr;
+    for (ZEL::u32 i = 0; keepArray && i < m_Length; ++i) m_Buf[i] = std::move(src.m_Buf[i]);
+  }
+  if (!keepArray) Swap(src);
+  src.DeleteBuffer();
+  src.m_Length = 0;  // also after a failed allocation left a length without storage
+  return *this;
+}
+
+template <typename T>
+CZEL_Vector<T>& CZEL_Vector<T>::Swap(CZEL_Vector<T>& other) noexcept {
+  std::swap(m_Buf, other.m_Buf);
+  std::swap(m_Length, other.m_Length);
+  return *this;
+}
+
+template <typename T>
 void CZEL_Vector<T>::DataCopy(CZEL_Vector<T> const& src) {
   if (&src == this) return;
   if (m_Length != src.m_Length) {
     DeleteBuffer();
-    m_Buf = new T[src.m_Length];  // a zero-item array for an empty source
+    m_Buf = NewItems(src.m_Length);  // a zero-item array for an empty source
   }
   for (ZEL::u32 i = 0; i < src.m_Length; ++i) m_Buf[i] = src.m_Buf[i];
   m_Length = src.m_Length;

@@ -37,7 +37,7 @@ void CZEL_Vector<T>::DataCopy(CZEL_List<T>& src) {
     DeleteBuffer();
     m_Length = src.GetLength();
     if (m_Length == 0) return;
-    m_Buf = new T[m_Length];
+    m_Buf = NewItems(m_Length);
   }
   src.ToStart();
   for (ZEL::u32 i = 0; i < m_Length; ++i) m_Buf[i] = src >> 1;

@@ -29,6 +29,9 @@
 //   operator=(V&), operator=(CZEL_Vector<T>&)
 //       The vector's items; an empty vector empties the list. The cursor ends
 //       on the tail.
+//   L(L&&), operator=(L&&), operator=(CZEL_List<T>&&), swap(L&, L&)
+//       The list's moves, with the copy's results: the cursor on the head, and
+//       an empty source changes nothing. The source is left empty.
 //
 // The members of a named vector class `V` over `T`, with `L` its list class:
 //
@@ -38,6 +41,11 @@
 //       The vector's assignment: an empty source empties this vector.
 //   operator=(L&), operator=(CZEL_List<T>&)
 //       The list's items from its head; the list's cursor ends on its tail.
+//   V(V&&), operator=(V&&), operator=(CZEL_Vector<T>&&), swap(V&, V&)
+//       The vector's moves: the source is left empty.
+//
+// The classes of number items also take their count as any integer type, so
+// that `L(0, 0)` and `V(0, 0)` mean a count and a value, not a null source.
 //
 // Every assignment returns a reference to this object; a named or unnamed
 // source gives the same result.
@@ -50,17 +58,33 @@
 #include <LZEL_Core/containers/CZEL_VectorListOps.h>
 #include <LZEL_Core/frame/ZEL_Types.h>
 
+#include <type_traits>
+#include <utility>
+
+// A constructor (count, value) whose count is any integer type, for number
+// items only; it forwards the count cut to 32 bits to the u32 form.
+#define ZEL_NAMED_COUNT_CONSTRUCTOR(C, T)                                                     \
+  template <typename N, typename U = T,                                                       \
+            typename =                                                                        \
+                std::enable_if_t<std::is_integral<N>::value && std::is_arithmetic<U>::value>> \
+  C(N count, T const& value) : C(static_cast<ZEL::u32>(count), value) {}
+
 // Declares the members of named list class L over T; V is its vector class.
-#define ZEL_NAMED_LIST_MEMBERS(L, V, T)  \
- public:                                 \
-  L();                                   \
-  L(ZEL::u32 count, T const& value);     \
-  L(T* src, ZEL::u32 count);             \
-  L(L const& src);                       \
-  L& operator=(L const& src);            \
-  L& operator=(CZEL_List<T> const& src); \
-  L& operator=(V& src);                  \
-  L& operator=(CZEL_Vector<T>& src);
+#define ZEL_NAMED_LIST_MEMBERS(L, V, T)                \
+ public:                                               \
+  L();                                                 \
+  L(ZEL::u32 count, T const& value);                   \
+  L(T* src, ZEL::u32 count);                           \
+  L(L const& src);                                     \
+  L& operator=(L const& src);                          \
+  L& operator=(CZEL_List<T> const& src);               \
+  L& operator=(V& src);                                \
+  L& operator=(CZEL_Vector<T>& src);                   \
+  L(L&& src) noexcept;                                 \
+  L& operator=(L&& src) noexcept;                      \
+  L& operator=(CZEL_List<T>&& src) noexcept;           \
+  friend void swap(L& a, L& b) noexcept { a.Swap(b); } \
+  ZEL_NAMED_COUNT_CONSTRUCTOR(L, T)
 
 // Defines them, in a source file where L and V are both complete.
 #define ZEL_NAMED_LIST_DEFINITIONS(L, V, T, Base)               \
@@ -83,20 +107,34 @@
   L& L::operator=(CZEL_Vector<T>& src) {                        \
     CZEL_List<T>::operator=(src);                               \
     return *this;                                               \
+  }                                                             \
+  L::L(L&& src) noexcept : Base(std::move(src)) {}              \
+  L& L::operator=(L&& src) noexcept {                           \
+    CZEL_List<T>::operator=(std::move(src));                    \
+    return *this;                                               \
+  }                                                             \
+  L& L::operator=(CZEL_List<T>&& src) noexcept {                \
+    CZEL_List<T>::operator=(std::move(src));                    \
+    return *this;                                               \
   }
 
 // Declares the members of named vector class V over T; L is its list class.
-#define ZEL_NAMED_VECTOR_MEMBERS(V, L, T)  \
- public:                                   \
-  V();                                     \
-  explicit V(ZEL::u32 count);              \
-  V(ZEL::u32 count, T const& value);       \
-  V(T* src, ZEL::u32 count);               \
-  V(V const& src);                         \
-  V& operator=(V const& src);              \
-  V& operator=(CZEL_Vector<T> const& src); \
-  V& operator=(L& src);                    \
-  V& operator=(CZEL_List<T>& src);
+#define ZEL_NAMED_VECTOR_MEMBERS(V, L, T)              \
+ public:                                               \
+  V();                                                 \
+  explicit V(ZEL::u32 count);                          \
+  V(ZEL::u32 count, T const& value);                   \
+  V(T* src, ZEL::u32 count);                           \
+  V(V const& src);                                     \
+  V& operator=(V const& src);                          \
+  V& operator=(CZEL_Vector<T> const& src);             \
+  V& operator=(L& src);                                \
+  V& operator=(CZEL_List<T>& src);                     \
+  V(V&& src) noexcept;                                 \
+  V& operator=(V&& src) noexcept;                      \
+  V& operator=(CZEL_Vector<T>&& src) noexcept;         \
+  friend void swap(V& a, V& b) noexcept { a.Swap(b); } \
+  ZEL_NAMED_COUNT_CONSTRUCTOR(V, T)
 
 // Defines them, in a source file where V and L are both complete.
 #define ZEL_NAMED_VECTOR_DEFINITIONS(V, L, T, Base)             \
@@ -119,6 +157,15 @@
   }                                                             \
   V& V::operator=(CZEL_List<T>& src) {                          \
     CZEL_Vector<T>::operator=(src);                             \
+    return *this;                                               \
+  }                                                             \
+  V::V(V&& src) noexcept : Base(std::move(src)) {}              \
+  V& V::operator=(V&& src) noexcept {                           \
+    CZEL_Vector<T>::operator=(std::move(src));                  \
+    return *this;                                               \
+  }                                                             \
+  V& V::operator=(CZEL_Vector<T>&& src) noexcept {              \
+    CZEL_Vector<T>::operator=(std::move(src));                  \
     return *this;                                               \
   }
 

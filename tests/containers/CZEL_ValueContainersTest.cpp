@@ -6,6 +6,8 @@
 
 #include "ContainerTestSupport.h"
 
+#include <utility>
+
 namespace {
 
 // Lists c, a, b; sorts them both ways with the named Sort, and checks the
@@ -43,20 +45,21 @@ TEST(CZEL_ValueContainers, SortWithTheElementsComparator) {
 }
 
 // A list of a, b handed to a vector and back: the same items, as copies.
+// Both then move on, leaving themselves empty.
 template <typename List, typename Vector, typename T>
 void CheckHandOver(T const& a, T const& b) {
-  List list, back;
-  list += a;
+  List list(1u, a), back;
   list += b;
   Vector vector;
   vector = list;
-  ASSERT_EQ(vector.GetLength(), 2u);
-  EXPECT_TRUE(vector[0] == a && vector[1] == b);
+  EXPECT_TRUE(vector.GetLength() == 2 && vector[0] == a && vector[1] == b);
   vector[0] = b;
   EXPECT_TRUE(list[0] == a);  // the vector holds copies
   back = vector;
-  ASSERT_EQ(back.GetLength(), 2u);
-  EXPECT_TRUE(back[0] == b && back[1] == b);
+  EXPECT_TRUE(back.GetLength() == 2 && back[0] == b && back[1] == b);
+  Vector moved(std::move(vector));
+  List taken(std::move(back));
+  EXPECT_TRUE(moved.GetLength() + taken.GetLength() == 4 && !vector + !back == 0);
 }
 
 #define HAND_OVER(Name, a, b) CheckHandOver<CZEL_##Name##List, CZEL_##Name##Vector>(a, b)
