@@ -86,6 +86,6 @@ class ZEL_API CZEL_Uint8Vector : public CZEL_OrderedVector<ZEL::u8> {
                         void (*to)(V const&, ZEL::u8*, ZEL::t_ByteOrdering));
 };
 
-extern template class CZEL_List<CZEL_Uint8Vector>;
+ZEL_EXTERN_TEMPLATE(class CZEL_List<CZEL_Uint8Vector>)
 
 #endif  // LZEL_CORE_CONTAINERS_CZEL_UINT8_VECTOR_H_

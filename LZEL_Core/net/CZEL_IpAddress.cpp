@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 using ZEL::u32;
 using ZEL::u8;
@@ -192,9 +193,27 @@ CZEL_IpAddress::CZEL_IpAddress(CZEL_IpAddress const& other)
   DataCopy(other);
 }
 
+CZEL_IpAddress::CZEL_IpAddress(CZEL_IpAddress&& other) noexcept
+    : CZEL_Object(other), m_Kind(IP_INVALID) {
+  Swap(other);
+}
+
 CZEL_IpAddress& CZEL_IpAddress::operator=(CZEL_IpAddress const& other) {
   DataCopy(other);
   return *this;
+}
+
+// The old address goes with the local that takes it over; moved onto itself,
+// the address keeps its value.
+CZEL_IpAddress& CZEL_IpAddress::operator=(CZEL_IpAddress&& other) noexcept {
+  CZEL_IpAddress taken(std::move(other));
+  Swap(taken);
+  return *this;
+}
+
+void CZEL_IpAddress::Swap(CZEL_IpAddress& other) noexcept {
+  std::swap(m_Kind, other.m_Kind);
+  m_Digits.Swap(other.m_Digits);
 }
 
 CZEL_IpAddress& CZEL_IpAddress::operator=(CZEL_String const& text) {

@@ -80,8 +80,23 @@ class ZEL_API CZEL_IpAddress : public CZEL_Object {
   // A copy of `other`.
   CZEL_IpAddress(CZEL_IpAddress const& other);
 
+  // Takes over `other`'s kind and digits without copying; `other` is left
+  // invalid.
+  CZEL_IpAddress(CZEL_IpAddress&& other) noexcept;
+
   // A copy of `other`; returns this address.
   CZEL_IpAddress& operator=(CZEL_IpAddress const& other);
+
+  // Takes over `other`'s kind and digits; `other` is left invalid. Moving an
+  // address onto itself keeps it. Returns this address.
+  CZEL_IpAddress& operator=(CZEL_IpAddress&& other) noexcept;
+
+  // Exchanges the kinds and digits of the two addresses, without copying.
+  void Swap(CZEL_IpAddress& other) noexcept;
+
+  // `a.Swap(b)`, found by argument-dependent lookup, so that `std::swap` and
+  // the standard algorithms exchange addresses without copying.
+  friend void swap(CZEL_IpAddress& a, CZEL_IpAddress& b) noexcept { a.Swap(b); }
 
   // The address that `text` parses to, or invalid; returns this address.
   CZEL_IpAddress& operator=(CZEL_String const& text);

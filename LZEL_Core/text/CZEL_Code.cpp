@@ -54,19 +54,6 @@ struct SListRelease {
   }
 };
 
-// Exchanges the arrays of two vectors of one type in constant time. The
-// vector has no exchange of its own; its array and its length are protected
-// fields, reached through member pointers named in a class derived from it.
-template <typename T>
-struct SVectorStorage : CZEL_Vector<T> {
-  static void Swap(CZEL_Vector<T>& a, CZEL_Vector<T>& b) noexcept {
-    T* CZEL_Vector<T>::*const buf = &SVectorStorage::m_Buf;
-    u32 CZEL_Vector<T>::*const length = &SVectorStorage::m_Length;
-    std::swap(a.*buf, b.*buf);
-    std::swap(a.*length, b.*length);
-  }
-};
-
 }  // namespace
 
 // -----------------------------------------------------------------------------
@@ -144,9 +131,9 @@ CZEL_Code& CZEL_Code::operator=(CZEL_Code&& other) noexcept {
 }
 
 void CZEL_Code::Swap(CZEL_Code& other) noexcept {
-  SVectorStorage<CZEL_String>::Swap(m_Names, other.m_Names);
-  SVectorStorage<CZEL_String>::Swap(m_Values, other.m_Values);
-  SVectorStorage<CFormatNode>::Swap(m_Nodes, other.m_Nodes);
+  m_Names.Swap(other.m_Names);
+  m_Values.Swap(other.m_Values);
+  m_Nodes.Swap(other.m_Nodes);
 }
 
 // Each node gets a copy of its data, so that either object can be formatted

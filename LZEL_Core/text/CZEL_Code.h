@@ -210,7 +210,7 @@ inline void swap(CZEL_Code& a, CZEL_Code& b) noexcept { a.Swap(b); }
 
 // The containers of nodes are compiled once, in the library, with the other
 // container instances.
-extern template class CZEL_Vector<CZEL_Code::CFormatNode>;
-extern template class CZEL_List<CZEL_Code::CFormatNode>;
+ZEL_EXTERN_TEMPLATE(class CZEL_Vector<CZEL_Code::CFormatNode>)
+ZEL_EXTERN_TEMPLATE(class CZEL_List<CZEL_Code::CFormatNode>)
 
 #endif  // LZEL_CORE_TEXT_CZEL_CODE_H_

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <string_view>
+#include <utility>
 
 namespace {
 
@@ -206,6 +208,59 @@ TEST(Surface, EveryFreeFunction) {
   EXPECT_TRUE(text2 == text && date == CZEL_Date(2000, 1, 1) && time == CZEL_Time(1, 2, 3, 4) &&
               address == CZEL_IpAddress(CZEL_String("1.2.3.4")));
   EXPECT_EQ(color.GetUnsignedColor(), CZEL_Color(1, 2, 3).GetUnsignedColor());
+}
+
+// The members added for standard-library use, moves, parsing and error
+// names, each called once through the library's exports.
+TEST(Surface, EveryAddedMember) {
+  EXPECT_STREQ(CZEL_Exception(ZEL_ERR_IO, nullptr, 0).What(), ZEL::ErrorName(ZEL_ERR_IO));
+  CZEL_String text(std::string_view("ab")), other("b");
+  text.Swap(other);
+  CZEL_String moved(std::move(other));
+  other = std::move(moved);
+  EXPECT_TRUE(text.View() == "b" && text == "b" && text != "a" && text < "c" && text <= "b" &&
+              text > "a" && text >= "b" && other.end() - other.begin() == 2);
+  CZEL_Code code(CZEL_String("<a>")), code2(std::move(code));
+  code = std::move(code2);
+  code.Swap(code2);
+
+  CZEL_BitSet bits(8, 0), bits2(std::move(bits));
+  bits = std::move(bits2);
+  bits.Swap(bits2);
+  EXPECT_TRUE(ZEL::u64{0} == bits2 && !(ZEL::u64{1} < bits2) && ZEL::u64{0} <= bits2 &&
+              !(ZEL::u64{0} != bits2) && !(ZEL::u64{0} > bits2) && ZEL::u64{0} >= bits2);
+  CZEL_Register reg, reg2(std::move(reg));
+  reg = std::move(reg2);
+  reg.Swap(reg2);
+  CZEL_DecimalNumber decimal(2, 0);
+  decimal.Set(3);
+  EXPECT_EQ((ZEL::i64(2) * static_cast<CZEL_DecimalNumber const&>(decimal)).GetIntegral(), 6u);
+  CZEL_Crc crc(CZEL_Crc::Crc32), crc2(std::move(crc));
+  crc = std::move(crc2);
+  crc.Swap(crc2);
+  ZEL::u32 value = 0;
+  crc2.Compute("123456789", 9, &value, 0);
+  EXPECT_EQ(crc2.Begin().Update(reinterpret_cast<ZEL::u8 const*>("123456789"), 9).Finish(), value);
+
+  CZEL_Date date;
+  CZEL_Time time;
+  EXPECT_EQ(date.Parse("2000-01-02", "%Y-%M-%D") + time.Parse("01:02", "%H:%T"), ZEL_ERR_NONE);
+  CZEL_IpAddress address, address2;
+  EXPECT_EQ(address.ParseStandard("::1") + address.IsValid(), 2);
+  EXPECT_EQ(address.GetKind(), CZEL_IpAddress(CZEL_String("0:0:0:0:0:0:0:1")).GetKind());
+  EXPECT_EQ(address.ToStandardString(), "::1");
+  address2 = std::move(address);
+  CZEL_IpAddress address3(std::move(address2));
+  address3.Swap(address);
+  EXPECT_TRUE(address.IsValid() && !address3.IsValid());
+
+  CZEL_MemoryBuffer stream;
+  stream << 1LL;
+  stream << 2ULL;
+  CZEL_MemoryBuffer stream2(std::move(stream));
+  stream = std::move(stream2);
+  stream.Swap(stream2);
+  EXPECT_EQ(stream2.GetSize(), 16u);
 }
 
 }  // namespace
