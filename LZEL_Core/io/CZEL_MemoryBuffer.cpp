@@ -11,7 +11,7 @@ using ZEL::u8;
 CZEL_MemoryBuffer::CBlockList::CBlockList() = default;
 CZEL_MemoryBuffer::CBlockList::CBlockList(CBlockList const& src) : CZEL_List(src) {}
 // The moves copy: the chain's items are not handed over.
-// NOLINTNEXTLINE(performance-noexcept-move-constructor)
+// NOLINTNEXTLINE(performance-noexcept-move-constructor,performance-move-constructor-init)
 CZEL_MemoryBuffer::CBlockList::CBlockList(CBlockList&& src) : CZEL_List(src) {}
 CZEL_MemoryBuffer::CBlockList& CZEL_MemoryBuffer::CBlockList::operator=(CBlockList const& src) {
   CZEL_List::operator=(src);

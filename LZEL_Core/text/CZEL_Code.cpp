@@ -75,11 +75,11 @@ u8 CZEL_Code::CFormatNode::operator==(CFormatNode const&) const { return 0; }
 
 u8 CZEL_Code::CFormatNode::operator!=(CFormatNode const&) const { return 0; }
 
-// The templates have no moving constructors, so a move copies the nodes.
+// Each constructor and assignment passes on to the template's own.
 CZEL_Code::CFormatList::CFormatList() : CZEL_List<CFormatNode>() {}
 CZEL_Code::CFormatList::CFormatList(CFormatList const& src) : CZEL_List<CFormatNode>(src) {}
-// NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
-CZEL_Code::CFormatList::CFormatList(CFormatList&& src) : CZEL_List<CFormatNode>(src) {}
+CZEL_Code::CFormatList::CFormatList(CFormatList&& src) noexcept
+    : CZEL_List<CFormatNode>(std::move(src)) {}
 CZEL_Code::CFormatList::~CFormatList() = default;
 
 CZEL_Code::CFormatList& CZEL_Code::CFormatList::operator=(CFormatList const& src) {
@@ -89,8 +89,8 @@ CZEL_Code::CFormatList& CZEL_Code::CFormatList::operator=(CFormatList const& src
 
 CZEL_Code::CFormatVector::CFormatVector() : CZEL_Vector<CFormatNode>() {}
 CZEL_Code::CFormatVector::CFormatVector(CFormatVector const& src) : CZEL_Vector<CFormatNode>(src) {}
-// NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
-CZEL_Code::CFormatVector::CFormatVector(CFormatVector&& src) : CZEL_Vector<CFormatNode>(src) {}
+CZEL_Code::CFormatVector::CFormatVector(CFormatVector&& src) noexcept
+    : CZEL_Vector<CFormatNode>(std::move(src)) {}
 CZEL_Code::CFormatVector::~CFormatVector() = default;
 
 CZEL_Code::CFormatVector& CZEL_Code::CFormatVector::operator=(CFormatVector const& src) {

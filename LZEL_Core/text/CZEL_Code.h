@@ -86,11 +86,11 @@ class ZEL_API CZEL_Code : public CZEL_Object {
   // A list of template nodes.
   class ZEL_API CFormatList : public CZEL_List<CFormatNode> {
    public:
-    // An empty list; a copy of `src`'s nodes. Moving and assigning copy too.
+    // An empty list; a copy of `src`'s nodes; `src`'s nodes taken over, as
+    // the list's own move does. Assignment copies.
     CFormatList();
     CFormatList(CFormatList const& src);
-    // NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
-    CFormatList(CFormatList&& src);
+    CFormatList(CFormatList&& src) noexcept;
     ~CFormatList() override;
     CFormatList& operator=(CFormatList const& src);
   };
@@ -98,11 +98,11 @@ class ZEL_API CZEL_Code : public CZEL_Object {
   // A vector of template nodes.
   class ZEL_API CFormatVector : public CZEL_Vector<CFormatNode> {
    public:
-    // An empty vector; a copy of `src`'s nodes. Moving and assigning copy too.
+    // An empty vector; a copy of `src`'s nodes; `src`'s nodes taken over, as
+    // the vector's own move does. Assignment copies.
     CFormatVector();
     CFormatVector(CFormatVector const& src);
-    // NOLINTNEXTLINE(performance-noexcept-move-constructor): copies, so it may throw
-    CFormatVector(CFormatVector&& src);
+    CFormatVector(CFormatVector&& src) noexcept;
     ~CFormatVector() override;
     CFormatVector& operator=(CFormatVector const& src);
     // The list's nodes in order; the list's cursor ends on its tail.

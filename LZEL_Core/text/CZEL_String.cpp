@@ -114,7 +114,7 @@ void ScanTags(char const* text, u32 length, char separator, Emit&& emit) {
 // Construction
 // -----------------------------------------------------------------------------
 
-CZEL_String::CZEL_String() : m_Text(nullptr), m_Length(0) { NewBuffer(0); }
+CZEL_String::CZEL_String() : m_Text(EmptyText()), m_Length(0) {}
 
 CZEL_String::CZEL_String(CZEL_String const& src) : CZEL_Object(src), m_Text(nullptr), m_Length(0) {
   DataCopy(src);
@@ -160,13 +160,12 @@ CZEL_String& CZEL_String::operator=(CZEL_String const& src) {
 // does; this covers a move onto itself too. Otherwise the source's buffer is
 // taken over, and with it the old one goes, through a local that frees it.
 CZEL_String& CZEL_String::operator=(CZEL_String&& src) noexcept {
-  if (m_Length == src.m_Length && m_Length != 0) {
-    std::memmove(m_Text, src.m_Text, m_Length + 1);
-    if (&src != this) src.Adopt(EmptyText(), 0);
-  } else {
-    CZEL_String taken(std::move(src));
-    Swap(taken);
-  }
+  if (&src == this) return *this;
+  FreeText(m_Text);
+  m_Text = src.m_Text;
+  m_Length = src.m_Length;
+  src.m_Text = EmptyText();
+  src.m_Length = 0;
   return *this;
 }
 

@@ -36,8 +36,8 @@
 //
 // The pointer from `GetStringC()` is the buffer itself. It stays valid only
 // until the next change of the string: `SetChar`, `ReplaceChar` and `SetCase`
-// alone keep the buffer, and so does assigning a string of equal non-zero
-// length, copied or moved. `begin()` and `end()` span the same bytes, so
+// alone keep the buffer, and so does copying in a string of equal non-zero
+// length; a moved-in string brings its own buffer. `begin()` and `end()` span the same bytes, so
 // range-for and the standard algorithms work on the text, and `View()` gives
 // it as a `std::string_view`.
 //
@@ -103,7 +103,9 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // Construction
   // ---------------------------------------------------------------------------
 
-  // An empty string.
+  // An empty string. It allocates nothing: its text is one shared, read-only
+  // terminator, as a moved-from string's is, until the first edit that
+  // lengthens it.
   CZEL_String();
 
   // A deep copy of `src`.
@@ -139,10 +141,9 @@ class ZEL_API CZEL_String : public CZEL_Object {
   // A copy of `src`. Assigning a string to itself changes nothing.
   CZEL_String& operator=(CZEL_String const& src);
 
-  // Takes over the text of `src`, which is left empty. As with the copy, a
-  // string of equal non-zero length keeps its buffer and takes the bytes;
-  // otherwise the buffer of `src` is taken over in constant time. Moving a
-  // string onto itself changes nothing.
+  // Takes over the text of `src`, buffer and all, in constant time; `src` is
+  // left empty and this string's old buffer is released. Moving a string
+  // onto itself changes nothing.
   CZEL_String& operator=(CZEL_String&& src) noexcept;
 
   // Exchanges the texts of the two strings, buffers and all, in constant

@@ -212,16 +212,16 @@ TEST(CZEL_StringTest, ExtractTagsAndEncapsulatedStrings) {
   }
 }
 
-// A move hands the buffer over and leaves the source empty, except that an
-// equal non-zero length keeps the target's buffer, as a copy does.
+// A move hands the buffer over, also between equal lengths, and leaves the
+// source empty.
 TEST(CZEL_StringTest, MovesHandTheBufferOver) {
   CZEL_String a("abc"), b, c("xyz");
-  char const* kept = c.GetStringC();
   swap(a, b);
-  c = CZEL_String(std::move(b));
+  char const* moved = b.GetStringC();
+  c = std::move(b);
   CZEL_String d(std::move(c));
   EXPECT_TRUE(Holds(a, "") && Holds(b, "") && Holds(c, "") && Holds(d, "abc") &&
-              d.GetStringC() == kept);
+              d.GetStringC() == moved);
 }
 
 // The buffer stays exactly length + 1 bytes as it grows in place: one byte
