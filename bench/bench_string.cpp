@@ -8,7 +8,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -60,6 +63,27 @@ void BM_MoveMiB(benchmark::State& state) {
 }
 BENCHMARK_TEMPLATE(BM_MoveMiB, CZEL_String);
 BENCHMARK_TEMPLATE(BM_MoveMiB, std::string);
+
+// std::sort of 100,000 short words in a std::vector: the swaps are moves, and
+// the comparisons go through operator<.
+template <typename String>
+void BM_SortWords(benchmark::State& state) {
+  std::mt19937 random(7);
+  std::vector<String> words;
+  for (int i = 0; i < 100000; ++i) {
+    std::string word = std::to_string(random()) + "-word";
+    words.emplace_back(word.c_str());
+  }
+  for (auto _ : state) {
+    state.PauseTiming();
+    std::vector<String> shuffled = words;
+    state.ResumeTiming();
+    std::sort(shuffled.begin(), shuffled.end());
+    benchmark::DoNotOptimize(Data(shuffled.front()));
+  }
+}
+BENCHMARK_TEMPLATE(BM_SortWords, CZEL_String)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_SortWords, std::string)->Unit(benchmark::kMillisecond);
 
 void BM_InsertMiddle(benchmark::State& state) {
   CZEL_String const text(static_cast<ZEL::u32>(state.range(0)), 'a');

@@ -11,6 +11,7 @@
 #define LZEL_CORE_CALENDAR_ZEL_CALENDAR_SUPPORT_H_
 
 #include <LZEL_Core/frame/ZEL_Types.h>
+#include <LZEL_Core/platform/ZEL_Platform.h>
 #include <LZEL_Core/text/CZEL_String.h>
 
 #include <cstdio>
@@ -18,16 +19,9 @@
 
 namespace ZEL {
 
-// The local wall-clock time, Gregorian, to the millisecond.
-struct t_LocalClock {
-  int year;
-  int month;   // 1 to 12
-  int day;     // 1 to 31
-  int hour;    // 0 to 23
-  int minute;  // 0 to 59
-  int second;  // 0 to 60, a leap second included
-  int millisecond;
-};
+// The local wall-clock time, Gregorian, to the millisecond, as the platform
+// reads it.
+using t_LocalClock = Platform::SClockReading;
 
 // Reads the local clock. Every field is -1 if it can't be read, which makes
 // the date and the time built from it null.
