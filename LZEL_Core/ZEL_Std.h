@@ -62,6 +62,7 @@ namespace std {
 // Hashes the text up to the first 0 byte, since comparisons stop there.
 template <>
 struct hash<CZEL_String> {
+  // The hash of `s`.
   std::size_t operator()(CZEL_String const& s) const noexcept {
     return std::hash<std::string_view>()(ZEL::internal::ComparedText(s));
   }
@@ -70,6 +71,7 @@ struct hash<CZEL_String> {
 // Hashes the day number; every null date hashes alike.
 template <>
 struct hash<CZEL_Date> {
+  // The hash of `d`.
   std::size_t operator()(CZEL_Date const& d) const {
     if (d.IsNull()) return 0;
     return ZEL::internal::HashMix(1, static_cast<ZEL::u64>(CZEL_Date(2000, 1, 1).GetDaysTo(d)));
@@ -79,6 +81,7 @@ struct hash<CZEL_Date> {
 // Hashes the milliseconds of the day; every null time hashes alike.
 template <>
 struct hash<CZEL_Time> {
+  // The hash of `t`.
   std::size_t operator()(CZEL_Time const& t) const noexcept {
     ZEL::i64 const ms =
         ((static_cast<ZEL::i64>(t.GetHour()) * 60 + t.GetMinute()) * 60 + t.GetSecond()) * 1000 +
@@ -90,6 +93,7 @@ struct hash<CZEL_Time> {
 // Hashes the kind and the digits as `ToString` prints them.
 template <>
 struct hash<CZEL_IpAddress> {
+  // The hash of `a`.
   std::size_t operator()(CZEL_IpAddress const& a) const {
     return std::hash<CZEL_String>()(a.ToString());
   }
@@ -99,6 +103,7 @@ struct hash<CZEL_IpAddress> {
 // higher word is set: equal numbers of any lengths agree on both.
 template <>
 struct hash<CZEL_BitSet> {
+  // The hash of `b`.
   std::size_t operator()(CZEL_BitSet const& b) const {
     return ZEL::internal::HashMix(3, b.ToUnsigned());
   }
@@ -108,6 +113,7 @@ struct hash<CZEL_BitSet> {
 // that 1.1 at one place and 1.10 at two hash alike.
 template <>
 struct hash<CZEL_DecimalNumber> {
+  // The hash of `n`.
   std::size_t operator()(CZEL_DecimalNumber const& n) const {
     CZEL_DecimalNumber at4(n);
     at4.ChangeNumDigits(4);

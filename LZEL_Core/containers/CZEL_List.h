@@ -397,6 +397,8 @@ class ZEL_API CZEL_List : public CZEL_Object {
 template <typename T>
 class CZEL_List<T>::CConstIterator {
  public:
+  // The traits of a forward iterator over const items, for the standard
+  // algorithms.
   using iterator_category = std::forward_iterator_tag;
   using value_type = T;
   using difference_type = std::ptrdiff_t;
@@ -406,6 +408,7 @@ class CZEL_List<T>::CConstIterator {
   // The end of every list.
   CConstIterator() : m_pNode(nullptr) {}
 
+  // The item of the node it stands on; `end()` must not be read.
   T const& operator*() const { return m_pNode->m_Item; }
   T const* operator->() const { return &m_pNode->m_Item; }
 
@@ -420,6 +423,7 @@ class CZEL_List<T>::CConstIterator {
     return before;
   }
 
+  // Whether both stand on the same node (both at `end()` included).
   bool operator==(CConstIterator const& other) const { return m_pNode == other.m_pNode; }
   bool operator!=(CConstIterator const& other) const { return m_pNode != other.m_pNode; }
 
