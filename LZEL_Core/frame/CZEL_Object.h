@@ -17,14 +17,15 @@
 
 class ZEL_API CZEL_Object {
  public:
-  // Does nothing.
-  CZEL_Object();
+  // Does nothing; defined here, so that building any object of the library
+  // costs no call for its root.
+  CZEL_Object() = default;
 
   // Does nothing with its argument.
-  CZEL_Object(CZEL_Object const& src);
+  CZEL_Object(CZEL_Object const& src) = default;
 
   // Copies nothing and returns this object.
-  CZEL_Object& operator=(CZEL_Object const& src);
+  CZEL_Object& operator=(CZEL_Object const& src) = default;
 
   // The root's only virtual operation. Does nothing.
   virtual ~CZEL_Object();
