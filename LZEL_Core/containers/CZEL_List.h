@@ -67,7 +67,7 @@
 #include <vector>
 
 template <typename T>
-class ZEL_API CZEL_List : public CZEL_Object {
+class ZEL_TEMPLATE_API CZEL_List : public CZEL_Object {
  public:
   // Construction and assignment ------------------------------------------------
 

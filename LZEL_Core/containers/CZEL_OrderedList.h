@@ -27,7 +27,7 @@
 #include <utility>
 
 template <typename T>
-class ZEL_API CZEL_OrderedList : public CZEL_List<T> {
+class ZEL_TEMPLATE_API CZEL_OrderedList : public CZEL_List<T> {
  public:
   // The constructors of `CZEL_List<T>`: (0, value) gives an empty list,
   // (src, 0) throws ZEL_ERR_EMPTY_INPUT.

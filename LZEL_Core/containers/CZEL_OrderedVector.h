@@ -32,7 +32,7 @@
 #include <utility>
 
 template <typename T>
-class ZEL_API CZEL_OrderedVector : public CZEL_Vector<T> {
+class ZEL_TEMPLATE_API CZEL_OrderedVector : public CZEL_Vector<T> {
  public:
   // The constructors of `CZEL_Vector<T>`, with their ZEL_ERR_EMPTY_INPUT for
   // a count of 0.

@@ -72,10 +72,10 @@
 
 // The export mark must be on the first declaration, for every compiler.
 template <typename T>
-class ZEL_API CZEL_List;
+class ZEL_TEMPLATE_API CZEL_List;
 
 template <typename T>
-class ZEL_API CZEL_Vector : public CZEL_Object {
+class ZEL_TEMPLATE_API CZEL_Vector : public CZEL_Object {
  public:
   // Construction ---------------------------------------------------------------
 

@@ -38,6 +38,19 @@
 #define ZEL_API
 #endif
 
+// ZEL_TEMPLATE_API
+//
+// Marks a class template. Elsewhere than Windows the template itself is
+// exported, so that every instantiation, the library's and the application's,
+// is visible. On Windows the template is not marked: a program compiles the
+// instantiations it uses, for the library's element types and its own, from
+// the headers into its own module, and links the DLL for everything else.
+#if defined(_WIN32)
+#define ZEL_TEMPLATE_API
+#else
+#define ZEL_TEMPLATE_API ZEL_API
+#endif
+
 // ZEL_EXTERN_TEMPLATE(class CZEL_Vector<int>)
 //
 // Declares that the library holds the explicit instantiation, so that a

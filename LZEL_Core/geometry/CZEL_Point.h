@@ -29,7 +29,7 @@
 #include <LZEL_Core/geometry/ZEL_Coordinate.h>
 
 template <typename T>
-class ZEL_API CZEL_Point : public CZEL_Object {
+class ZEL_TEMPLATE_API CZEL_Point : public CZEL_Object {
  public:
   // (0, 0).
   CZEL_Point();

@@ -37,7 +37,7 @@
 #include <LZEL_Core/geometry/ZEL_Coordinate.h>
 
 template <typename T>
-class ZEL_API CZEL_Rect : public CZEL_Object {
+class ZEL_TEMPLATE_API CZEL_Rect : public CZEL_Object {
  public:
   // ---------------------------------------------------------------------------
   // Construction and assignment

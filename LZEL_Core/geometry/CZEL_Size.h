@@ -28,7 +28,7 @@
 #include <LZEL_Core/geometry/ZEL_Coordinate.h>
 
 template <typename T>
-class ZEL_API CZEL_Size : public CZEL_Object {
+class ZEL_TEMPLATE_API CZEL_Size : public CZEL_Object {
  public:
   // 0 by 0.
   CZEL_Size();

@@ -78,9 +78,9 @@ class CZEL_StringVector;
 // Lets the compiler check the arguments of a printf-like member against its
 // format, as it does for printf itself.
 #ifndef ZEL_PRINTF_FORMAT
-#if defined(__MINGW32__)  // mingw-w64 formats with its own printf family
+#if defined(__MINGW32__)  // mingw-w64's C++ runtime formats as GNU printf does
 #define ZEL_PRINTF_FORMAT(format_index, first_arg) \
-  __attribute__((format(__MINGW_PRINTF_FORMAT, format_index, first_arg)))
+  __attribute__((format(gnu_printf, format_index, first_arg)))
 #elif defined(__GNUC__) || defined(__clang__)
 #define ZEL_PRINTF_FORMAT(format_index, first_arg) \
   __attribute__((format(printf, format_index, first_arg)))

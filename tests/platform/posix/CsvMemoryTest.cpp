@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "IoTestSupport.h"
+#include "io/IoTestSupport.h"
 
 namespace {
 std::size_t g_Live = 0, g_Peak = 0;
