@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // CZEL_BitSet beside boost::dynamic_bitset, doing the same work in the same
 // run: the word-wise operators &, |, ^, the numeric comparison over the
 // words, and the text forms, on sets of 1,000 and 100,000 bits. The text

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Date conversions per second: a date stepped on by one day, read as year,
 // month and day and set again from them, for each calendar of CZEL_Date, and
 // the same Gregorian round trip of Howard Hinnant's date library (`date::

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The containers against the standard containers doing the same work:
 // walking a list with its cursor, creating a vector once and then writing its
 // items, and growing a vector one item at a time (exact size, so every append

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Throughput of CZEL_Crc::Compute at each width, beside Boost.CRC's
 // crc_optimal with the same parameters and zlib's crc32, on blocks of 1 KiB,
 // 64 KiB and 16 MiB. The figures to compare are the bytes per second of one

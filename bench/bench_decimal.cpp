@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // CZEL_DecimalNumber beside the standard library doing the equivalent work:
 // reading number texts (strtod), adding and scaling at two places (plain
 // int64 fixed-point arithmetic) and printing (snprintf). Each pair runs over

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The two file formats against plain standard code doing the same work:
 // reading a whole CSV file into records with CZEL_CsvFile::ReadFile beside a
 // std::getline loop that splits each line into a std::vector<std::string>,

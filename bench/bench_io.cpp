@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The stream classes beside what an application would write by hand:
 //   - 64 MiB of mixed typed values through CZEL_FileBuffer (blocks of 4 KiB
 //     and 64 KiB), written and read, beside one fwrite or fread per value;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // CZEL_IpAddress parsing and printing beside the C library's inet_pton and
 // inet_ntop on the same addresses, in the same run. The texts differ only
 // where the two read differently: CZEL_IpAddress reads IPv6 groups in

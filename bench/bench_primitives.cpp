@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Throughput of the bit and byte primitives of namespace ZEL: the field
 // functions that registers and bit sets are built on, and the buffer packing
 // that every binary form of the library goes through.

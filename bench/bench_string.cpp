@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The costs of CZEL_String's exact-size buffers beside std::string: growing
 // a text by appends (the buffer resized by realloc at each step, where
 // std::string keeps spare capacity), editing in the middle, and turning

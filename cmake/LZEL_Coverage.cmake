@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Coverage of the test suite (option LZEL_COVERAGE, g++ and gcov).
 #
 # Everything is compiled with --coverage and without optimisation, so that

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The API reference (target docs): Doxygen reads the public headers' comments
 # through docs/comment-filter.py and writes HTML to docs/html/index.html of the
 # build folder. It needs Doxygen and Python 3 (apt-get install doxygen

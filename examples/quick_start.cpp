@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A tour of LZEL_Core, written the way an application uses the library:
 // through the installed include path <LZEL_Core/...> and the shared library.
 // Read it top to bottom; each section is one subsystem, and main() at the end

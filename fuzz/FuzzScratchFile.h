@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A scratch file for the fuzz targets that go through the file system: one
 // per process, made at the first use and removed at exit.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Checks shared by the fuzz targets: a property that fails aborts, which
 // libFuzzer reports as a crash with the input that caused it.
 

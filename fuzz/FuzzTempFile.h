@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A file of the fuzz input's bytes, for the targets whose readers take a path:
 // made under a name of its own (so that parallel fuzzing processes don't
 // share it) and removed when the object goes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary bytes, zeros included, to the text-to-number conversions of
 // CZEL_String: ToUnsignedAutoRadix in both marker modes and an unknown one,
 // ToUnsigned in a radix taken from the input, ToSigned and ToDouble. Beside

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary file bytes to CZEL_WinBitmapData::LoadFromFile and queries
 // the pixels of what loads. Beside memory and undefined-behaviour faults (a
 // read outside the file's bytes among them), it checks that every failure is

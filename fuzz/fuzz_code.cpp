@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary bytes, zeros included, to CZEL_Code. The first byte gives
 // the length of the template that follows it; the rest is a coded string.
 // Beside memory and undefined-behaviour faults (copies are destroyed and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Runs CZEL_Crc::Compute with parameters and data from the input and checks
 // the result against a plain bit-by-bit CRC. The first byte picks the width
 // (bits 0-1), the two reflections (bits 2 and 3) and how often the data is

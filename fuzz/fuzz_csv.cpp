@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary file bytes to CZEL_CsvFile::ReadFile, the first byte giving
 // the separator and the second the field count (1 to 4). Beside memory and
 // undefined-behaviour faults, it checks the reading against the plain way of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary format strings, zeros included, with arbitrary dates and
 // times to CZEL_Date::ToString and CZEL_Time::ToString. The first 13 bytes
 // choose the date's day number (valid or not), the calendar (known or not)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary texts and formats, zeros included, to CZEL_Date::Parse and
 // CZEL_Time::Parse. The first two bytes choose the calendar (known or not)
 // and where the format ends and the text begins. Beside memory and

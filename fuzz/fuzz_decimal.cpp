@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary text to CZEL_DecimalNumber's text setter with each decimal
 // point type, at a number of places taken from the input. Beside memory and
 // undefined-behaviour faults, it checks the results that hold for every

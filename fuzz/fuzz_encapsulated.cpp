@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary bytes, zeros included, to
 // CZEL_String::ExtractEncapsulatedString: the first two bytes are the left
 // and the right delimiter, the rest is the text. Beside memory and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary bytes, zeros included, to CZEL_String::ExtractTags, the
 // first byte being the separator and the rest the text. Beside memory and
 // undefined-behaviour faults, it checks that the list and the vector form

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary bytes, zeros included, to the CZEL_IpAddress parser.
 // Beside memory and undefined-behaviour faults, it checks:
 //   - the printed address against a plain reading of the rules: the tags of

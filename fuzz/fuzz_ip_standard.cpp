@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Feeds arbitrary bytes, zeros included, to CZEL_IpAddress::ParseStandard.
 // Beside memory and undefined-behaviour faults, it checks:
 //   - acceptance against the C library's inet_pton of both families: text

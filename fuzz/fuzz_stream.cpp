@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Reads arbitrary bytes as a stream of mixed values, through a memory buffer
 // and through a file with the file buffer side by side. A small model of the
 // stream format says for each value what must come out: the value, or the

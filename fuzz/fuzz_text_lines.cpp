@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Reads arbitrary bytes as a text file, line by line, with both
 // CZEL_File::ReadTextLine forms, and checks every line and result against a
 // byte-at-a-time model of the reader: bytes 0 and 13 dropped, a line feed

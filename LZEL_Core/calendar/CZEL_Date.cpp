@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/calendar/CZEL_Date.h>
 
 #include <LZEL_Core/calendar/ZEL_CalendarFormat.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/calendar/ZEL_CalendarSupport.h>
 
 namespace ZEL {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/containers/CZEL_BitSetVector.h>
 
 #include <LZEL_Core/containers/CZEL_BitSetList.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/containers/CZEL_DoubleVector.h>
 
 #include <LZEL_Core/containers/CZEL_DoubleList.h>

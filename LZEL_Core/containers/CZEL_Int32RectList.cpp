@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/containers/CZEL_Int32RectList.h>
 
 #include <LZEL_Core/containers/CZEL_Int32RectVector.h>

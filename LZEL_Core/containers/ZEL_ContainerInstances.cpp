@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The explicit instantiations of the container templates, one set per element
 // type of ZEL_ContainerElements.h. They carry the templates' export mark, so
 // that they form part of the library's surface.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The explicit instantiations of the container templates over the value
 // classes of ZEL_ValueContainerExterns.h, exported with the library.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/frame/CZEL_Exception.h>
 #include <LZEL_Core/frame/CZEL_Mutex.h>
 #include <LZEL_Core/frame/ZEL_Errors.h>

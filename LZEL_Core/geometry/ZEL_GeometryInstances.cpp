@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The explicit instantiations of the geometry templates, one set per
 // coordinate type of ZEL_GeometryExterns.h. They carry the templates' export
 // mark, so that they form part of the library's surface.

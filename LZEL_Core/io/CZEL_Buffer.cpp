@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/io/CZEL_Buffer.h>
 
 #include <LZEL_Core/frame/CZEL_Exception.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/values/CZEL_BitSet.h>
 
 #include <LZEL_Core/frame/CZEL_Exception.h>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Cross build for 64-bit Windows with mingw-w64 (the POSIX-thread variant of
 # the compilers, for std::thread), e.g. Debian's g++-mingw-w64-x86-64-posix:
 #   cmake --preset windows

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Dates and times of day. Dates: worked day numbers in the five calendars,
 // every day of ten thousand years both ways, the leap and month rules, the
 // arithmetic with its null results, and the text form. Times: the bounds of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Moves, swaps and iteration of the containers, the overloads for literal
 // zeros, and the exact size of a grown array.
 

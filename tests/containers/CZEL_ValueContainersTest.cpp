@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The named containers of the value classes: each sorts with its element's
 // comparator (lists both ways, vectors on one item and on none), and each
 // list and vector pair hands its items over in both directions as copies.

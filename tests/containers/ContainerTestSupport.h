@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Helpers shared by the container tests: containers of ints built from text,
 // their text after an edit, the table runner, and checking a thrown
 // CZEL_Exception.

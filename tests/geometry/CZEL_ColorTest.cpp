@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Colours: the packing of the word and its top byte, and the integer HLS
 // conversions in both directions, to the unit.
 

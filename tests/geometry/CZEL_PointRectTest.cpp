@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Points and sizes: both pair templates run the same cases through a form
 // that names their accessors, and the named classes forward to them.
 // Rectangles: what is read from the edges as they stand (inverted ones

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The formats on files: CSV records and Windows bitmaps, whose fixture files
 // the tests write byte by byte.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Files, memory and file buffers, and the serialised value forms on them.
 
 #include <LZEL_Core/calendar/CZEL_Date.h>

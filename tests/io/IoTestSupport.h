@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Helpers shared by the input and output tests: a private temporary
 // directory per test, and whole-file reads and writes through plain streams
 // so that what a class left on disk is checked byte by byte.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The library as a C++17 or C++20 application meets it: const and mixed
 // comparisons, standard containers keyed by its values, moves, range-for,
 // standard algorithms, std::string_view, hashing and streams, error names.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // IP addresses: the separator-counting parser against the printed form (one
 // row per rule; the fuzz target checks the rest against a model), the
 // digits, and comparisons across kinds. The standard forms: the canonical

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The library's whole surface, reached through the umbrella header alone:
 // every class, every template instantiation and every free function is named
 // here, so that this program links only if each of them is exported from the

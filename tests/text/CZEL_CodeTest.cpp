@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include <LZEL_Core/frame/ZEL_Errors.h>
 #include <LZEL_Core/text/CZEL_Code.h>
 #include <LZEL_Core/text/CZEL_String.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The CRC by its definition, one bit at a time: slow and obvious, the
 // yardstick for CZEL_Crc in the tests and in the fuzz target.
 

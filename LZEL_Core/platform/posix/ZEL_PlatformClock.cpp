@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The local clock on POSIX: the real-time clock for the instant, and the C
 // library's local-time conversion (time zone and summer time included).
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The mutex on POSIX: a pthread mutex that is recursive (the holder may lock
 // again) and robust (an owner that ends while holding it is reported to the
 // next locker, as an abandoned one).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Paths on POSIX: the full path is made lexically, without asking the file
 // system, so that the path need not exist: absolute against the current
 // directory, `.` and `..` folded, runs of `/` joined. A trailing `/` stays.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The runtime library's streams on POSIX: 64-bit seek and tell through
 // fseeko and ftello, the stream lock of flockfile, and glibc's read buffer
 // shown to the line reader.

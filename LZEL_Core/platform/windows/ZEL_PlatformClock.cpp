@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The local clock on Windows: the system's local time, which it keeps to the
 // millisecond.
 

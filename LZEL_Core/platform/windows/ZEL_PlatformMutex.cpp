@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The mutex on Windows: an anonymous mutex object, which is recursive by
 // nature and reports an owner that ended while holding it as abandoned.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Paths on Windows: the system's full-path lookup, with its own rules (`/`
 // becomes `\`, a drive letter or the current drive in front, `.` and `..`
 // folded); the path need not exist. Status and removal through the C

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The runtime library's streams on Windows: 64-bit seek and tell through
 // _fseeki64 and _ftelli64, and the stream lock of _lock_file. The runtime
 // doesn't show its read buffer, so the line reader takes byte by byte.

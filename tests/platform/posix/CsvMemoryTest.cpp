@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What CZEL_CsvFile::ReadFile allocates, counted by this program's own global
 // operator new and delete, through which the library allocates too.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The standard address forms against the C library's inet_pton and
 // inet_ntop, where the C library is the POSIX one whose forms they follow.
 

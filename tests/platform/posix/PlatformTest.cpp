@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The POSIX platform: full paths made lexically with `/`, and /dev/full,
 // which takes buffered bytes and refuses them at the flush.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The Windows platform: full paths in the system's rules, `\` as the
 // separator, `/` taken as one, a drive letter in front; and the NUL device,
 // which takes every write (Windows has no device that refuses them).
