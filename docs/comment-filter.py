@@ -151,7 +151,7 @@ class Filter:
         text = lines[i]
         if text.strip().startswith("template") and i + 1 < len(lines):
             text += " " + lines[i + 1]
-        pattern = r"\b(class|struct)\s+(ZEL_API\s+)?" + re.escape(self.class_name) + r"\b"
+        pattern = r"\b(class|struct)\s+((?:ZEL_API|ZEL_TEMPLATE_API)\s+)?" + re.escape(self.class_name) + r"\b"
         return bool(re.search(pattern, text)) and not strip_code(text).rstrip().endswith(";")
 
     # Comment blocks ---------------------------------------------------------
